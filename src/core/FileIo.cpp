@@ -1,0 +1,44 @@
+#include "core/FileIo.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace qly::core {
+
+IoResult readWholeFile(const QString &path, QByteArray &bytes)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile()) {
+        return {QFileInfo::exists(path) ? ErrFileAccess : ErrFileNotFound,
+                QStringLiteral("File not found.")};
+    }
+    if (!file.open(QIODevice::ReadOnly))
+        return {ErrFileAccess, file.errorString()};
+    bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return {ErrIo, file.errorString()};
+    return {};
+}
+
+IoResult writeFileAtomically(const QString &path, const QByteArray &bytes)
+{
+    const QFileInfo info(path);
+    if (info.exists() && (!info.isFile() || !info.isWritable()))
+        return {ErrFileAccess, QStringLiteral("Permission denied")};
+
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly))
+        return {ErrFileAccess, file.errorString()};
+    if (file.write(bytes) != bytes.size()) {
+        const QString why = file.errorString();
+        file.cancelWriting();
+        return {ErrIo, why};
+    }
+    if (!file.commit())
+        return {ErrIo, file.errorString()};
+    return {};
+}
+
+} // namespace qly::core

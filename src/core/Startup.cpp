@@ -1,0 +1,123 @@
+#include "core/Startup.h"
+
+#include "core/Feedback.h"
+#include "core/Globals.h"
+#include "core/Paths.h"
+#include "core/Settings.h"
+#include "documents/DocumentList.h"
+#include "platform/Prompts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace qly::core {
+
+namespace {
+const QString kDisplay = QStringLiteral("Display");
+}
+
+QString ChooseIniFile()
+{
+    const QString beside = JoinPath(ProgramDirectory(), QStringLiteral("quillery.ini"));
+    if (QFileInfo::exists(beside))
+        return beside;
+    const QString user = JoinPath(UserConfigDirectory(), QStringLiteral("quillery.ini"));
+    if (!QFileInfo::exists(user)) {
+        const QString shipped = JoinPath(ProgramDirectory(), QStringLiteral("quillery.default.ini"));
+        if (QFileInfo::exists(shipped)) {
+            QDir().mkpath(UserConfigDirectory());
+            QFile::copy(shipped, user);
+            QFile(user).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+        }
+    }
+    return user;
+}
+
+QString ProcessCommandLine(const QString &commandLine)
+{
+    const qsizetype at = commandLine.toLower().indexOf(QLatin1String("/ini:"));
+    if (at < 0)
+        return commandLine;
+    const QString after = commandLine.mid(at + 5);
+    const qsizetype blank = after.indexOf(u' ');
+    const QString raw = blank < 0 ? after : after.left(blank);
+    const QString value = raw.trimmed();
+    if (QFileInfo(value).isFile()) {
+        gIniFile = value;
+    } else {
+        platform::MsgBox(QStringLiteral("Error retrieving ") + value + QStringLiteral(" from ")
+                             + UserConfigDirectory() + QStringLiteral(": File not found"),
+                         platform::Buttons::Ok, platform::Icon::Exclamation);
+    }
+    return commandLine.left(at) + commandLine.mid(at + 5 + raw.size());
+}
+
+MainGeometry ReadMainGeometry()
+{
+    MainGeometry g;
+    if (ReadSetting(kDisplay, QStringLiteral("Window State")).compare(QLatin1String("Normal"), Qt::CaseInsensitive) != 0)
+        return g;
+    g.normal = true;
+    auto read = [](const char *key) {
+        const QString v = ReadSetting(kDisplay, QString::fromLatin1(key));
+        bool ok = false;
+        const int n = v.toInt(&ok);
+        return (v.isEmpty() || !ok) ? -1 : n;
+    };
+    g.width = read("Main Window Width");
+    g.height = read("Main Window Height");
+    g.top = read("Main Window Top");
+    g.left = read("Main Window Left");
+    return g;
+}
+
+void WriteMainGeometry(bool normal, const QRect &twips)
+{
+    if (!normal) {
+        WriteSetting(kDisplay, QStringLiteral("Window State"), QStringLiteral("Maximized"));
+        return;
+    }
+    WriteSetting(kDisplay, QStringLiteral("Window State"), QStringLiteral("Normal"));
+    WriteSetting(kDisplay, QStringLiteral("Main Window Width"), QString::number(twips.width()));
+    WriteSetting(kDisplay, QStringLiteral("Main Window Height"), QString::number(twips.height()));
+    WriteSetting(kDisplay, QStringLiteral("Main Window Left"), QString::number(twips.x()));
+    WriteSetting(kDisplay, QStringLiteral("Main Window Top"), QString::number(twips.y()));
+}
+
+void ReadGlobalEditingFlags()
+{
+    gTranslateWhileTyping = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Translate While Typing"));
+    gColorOnLeavingLine = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Color On Leaving Line"));
+    gColorHTML = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Color HTML"));
+}
+
+void OpenStartupDocuments(const QString &commandLineRest, const StartupDocuments &how)
+{
+    QString file = commandLineRest.trimmed();
+    if (file.size() >= 2 && file.startsWith(u'"') && file.endsWith(u'"'))
+        file = file.mid(1, file.size() - 2);
+    if (!file.isEmpty()) {
+        documents::OpenDocumentFile(file);
+        return;
+    }
+    if (ReadSettingFlag(QStringLiteral("General"), QStringLiteral("Open New Document")) && how.newDocument)
+        how.newDocument();
+    if (!ReadSettingFlag(QStringLiteral("General"), QStringLiteral("Restore Last Session")))
+        return;
+    for (int n = 1; n <= 99; ++n) {
+        const QString entry = ReadSetting(QStringLiteral("Last Session"), QString::number(n));
+        if (entry.isEmpty())
+            break;
+        const QString path = entry.section(u',', 0, 0);
+        if (GetFileExt(path).compare(QLatin1String("PRJ"), Qt::CaseInsensitive) == 0) {
+            if (how.openWebsite)
+                how.openWebsite(path);
+        } else {
+            documents::OpenDocumentFile(entry);
+            DoEvents();
+        }
+    }
+}
+
+} // namespace qly::core

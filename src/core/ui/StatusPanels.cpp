@@ -1,0 +1,102 @@
+#include "core/ui/StatusPanels.h"
+
+#include "core/StatusText.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QStatusBar>
+#include <QTime>
+#include <QTimer>
+
+namespace qly::core::ui {
+
+StatusPanels::StatusPanels(QStatusBar *bar)
+    : QObject(bar)
+    , m_bar(bar)
+    , m_clock(new QTimer(this))
+{
+    addPanel(bar, QStringLiteral("Status"), QString(), QString(), 1);
+    addPanel(bar, QStringLiteral("SyntaxColor"), QStringLiteral("Syntax Coloring"), QStringLiteral("Color syntax of tags"), 0);
+    addPanel(bar, QStringLiteral("TagColor"), QStringLiteral("Tag Coloring"), QStringLiteral("Color entire tags"), 0);
+    addPanel(bar, QStringLiteral("Line"), QStringLiteral("Line#"), QStringLiteral("Current line and character position"), 0);
+    addPanel(bar, QStringLiteral("DateTime"), QString(), QStringLiteral("Click the time to insert date and time"), 0);
+    addPanel(bar, QStringLiteral("Num"), QString(), QString(), 0);
+    addPanel(bar, QStringLiteral("Ins"), QStringLiteral("INS"), QString(), 0);
+
+    connect(&StatusText::instance(), &StatusText::changed, this, [this](const QString &text) {
+        panel(QStringLiteral("Status"))->setText(text);
+        // Shown at once, also during a busy loop.
+        panel(QStringLiteral("Status"))->repaint();
+    });
+    connect(m_clock, &QTimer::timeout, this, &StatusPanels::updateTime);
+    m_clock->start(1000);
+    updateTime();
+}
+
+QLabel *StatusPanels::addPanel(QStatusBar *bar, const QString &key, const QString &text, const QString &tip, int stretch)
+{
+    auto *label = new QLabel(text, bar);
+    label->setObjectName(key);
+    label->setToolTip(tip);
+    label->setFrameShape(QFrame::Panel);
+    label->setFrameShadow(QFrame::Sunken);
+    label->setMargin(1);
+    label->installEventFilter(this);
+    if (stretch > 0)
+        bar->addWidget(label, stretch);
+    else
+        bar->addPermanentWidget(label);
+    m_panels << label;
+    return label;
+}
+
+QLabel *StatusPanels::panel(const QString &key) const
+{
+    for (QLabel *label : m_panels) {
+        if (label->objectName() == key)
+            return label;
+    }
+    return nullptr;
+}
+
+void StatusPanels::setPosition(const QString &text)
+{
+    panel(QStringLiteral("Line"))->setText(text);
+}
+
+void StatusPanels::showColoringMode(bool syntax)
+{
+    QLabel *active = panel(syntax ? QStringLiteral("SyntaxColor") : QStringLiteral("TagColor"));
+    QLabel *other = panel(syntax ? QStringLiteral("TagColor") : QStringLiteral("SyntaxColor"));
+    // The mode in force is pressed in and takes no click; the other one offers itself.
+    active->setFrameShadow(QFrame::Sunken);
+    active->setEnabled(false);
+    other->setFrameShadow(QFrame::Raised);
+    other->setEnabled(true);
+}
+
+void StatusPanels::setOverwrite(bool overwrite)
+{
+    panel(QStringLiteral("Ins"))->setText(overwrite ? QStringLiteral("OVR") : QStringLiteral("INS"));
+}
+
+void StatusPanels::updateTime()
+{
+    const QString text = QLocale().toString(QTime::currentTime(), QLocale::ShortFormat);
+    QLabel *p = panel(QStringLiteral("DateTime"));
+    if (p->text() != text)
+        p->setText(text);
+}
+
+bool StatusPanels::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        auto *label = qobject_cast<QLabel *>(watched);
+        if (label && label->isEnabled())
+            emit panelClicked(label->objectName());
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace qly::core::ui

@@ -1,0 +1,167 @@
+#include "documents/Document.h"
+
+#include "core/Feedback.h"
+#include "core/Globals.h"
+#include "core/Paths.h"
+#include "core/Settings.h"
+#include "documents/FileFilter.h"
+#include "documents/FileRegistry.h"
+#include "platform/HTMLEdit.h"
+#include "platform/Prompts.h"
+
+namespace qly::documents {
+
+using namespace qly::core;
+
+namespace {
+
+void reportSaveFailure(const QString &path, const IoResult &result)
+{
+    const QString text = result.error == ErrFileAccess
+        ? QStringLiteral("This file is read-only and Quillery 4.01 cannot save any changes to it.")
+        : QStringLiteral("Quillery 4.01 could not save ") + path + QStringLiteral(": ") + result.message
+              + QStringLiteral(". The file on disk has not been changed.");
+    platform::MsgBox(text, platform::Buttons::Ok, platform::Icon::Exclamation,
+                     QStringLiteral("Problem Saving File"));
+}
+
+// The text between <TITLE> and </TITLE>, found without regard to case.
+QString pageTitle(const QString &text)
+{
+    const qsizetype open = text.indexOf(QLatin1String("<TITLE>"), 0, Qt::CaseInsensitive);
+    if (open < 0)
+        return {};
+    const qsizetype from = open + 7;
+    const qsizetype close = text.indexOf(QLatin1String("</TITLE>"), from, Qt::CaseInsensitive);
+    if (close < 0)
+        return {};
+    return text.mid(from, close - from).trimmed();
+}
+
+} // namespace
+
+DocumentHooks &documentHooks()
+{
+    static DocumentHooks hooks;
+    return hooks;
+}
+
+bool Document::IsSaved() const
+{
+    return FileExists(LocalFileName);
+}
+
+bool Document::LoadFile(const QString &path)
+{
+    const IoResult result = txtDoc().LoadFile(1, path);
+    LocalFileName = path;
+    FileRegistry &registry = FileRegistry::instance();
+    if (filenum != 0)
+        registry.ForgetFile(filenum);
+    const QString cap = caption();
+    const bool untitled = cap.startsWith(QLatin1String("Untitled"), Qt::CaseInsensitive) && cap.size() > 8;
+    filenum = registry.AddFile(untitled ? cap : path);
+    registry.SetFileName(filenum, path);
+    bNeedsPreview = false;
+    return result.ok();
+}
+
+bool Document::Save()
+{
+    BeginWait();
+    bool ok = true;
+    if (FileExists(LocalFileName)) {
+        const QString path = LocalFileName;
+        ShowStatus(QStringLiteral("Saving ") + path);
+        const IoResult result = txtDoc().SaveFile(1, path);
+        FileRegistry::instance().SetFileName(filenum, path);
+        if (!result.ok()) {
+            EndWait();
+            reportSaveFailure(path, result);
+            ok = false;
+        } else {
+            if (bRemote && documentHooks().saveRemote)
+                ok = documentHooks().saveRemote(*this);
+            if (documentHooks().addRecentFile)
+                documentHooks().addRecentFile(path);
+            txtDoc().setDirty(false);
+            if (documentHooks().fileSaved)
+                documentHooks().fileSaved(filenum);
+        }
+    } else {
+        ok = SaveAs();
+    }
+    EndWait();
+    ShowStatus(QString());
+    return ok;
+}
+
+bool Document::SaveAs()
+{
+    platform::FileRequest request;
+    request.directory = GetFileLocation(QStringLiteral("Documents"));
+    request.title = versionCaption() + QStringLiteral(" - Save File As");
+    request.filter = FileFilter();
+    request.filterIndex = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Force DefaultExt")) ? 1 : 2;
+    request.promptOverwrite = true;
+    request.fileName = pageTitle(txtDoc().Text());
+    EndWait();
+    const platform::FileAnswer answer = platform::prompts().saveFile(request);
+    if (!answer.accepted())
+        return false;
+    return NamedSaveAs(answer.files.first());
+}
+
+bool Document::NamedSaveAs(const QString &chosen)
+{
+    QString path = chosen;
+    if (GetFileExt(path).isEmpty()) {
+        QString ext = ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"));
+        if (ext.isEmpty())
+            ext = QStringLiteral("HTM");
+        path += u'.' + ext;
+    }
+    LocalFileName = path;
+    FileRegistry::instance().SetFileName(filenum, path);
+    ShowCaptionAndTab(path);
+    ShowFileName = path;
+    bRemote = false;
+    const IoResult result = txtDoc().SaveFile(1, path);
+    if (!result.ok()) {
+        reportSaveFailure(path, result);
+        return false;
+    }
+    return true;
+}
+
+IoResult Document::RawSaveFile(const QString &path)
+{
+    return txtDoc().SaveFile(1, path);
+}
+
+void Document::ShowCaptionAndTab(const QString &name, bool)
+{
+    setCaption(name);
+    ShowFileName = name;
+}
+
+QString Document::captionPath() const
+{
+    return StripDocSuffix(caption());
+}
+
+QString StripDocSuffix(const QString &caption)
+{
+    const qsizetype colon = caption.lastIndexOf(u':');
+    if (colon < 2)
+        return caption;
+    qsizetype i = colon + 1;
+    while (i < caption.size() && caption.at(i) == u' ')
+        ++i;
+    qsizetype j = i;
+    while (j < caption.size() && caption.at(j).isDigit())
+        ++j;
+    return (j > i && caption.mid(i, j - i).toLongLong() > 0) ? caption.left(colon) : caption;
+}
+
+} // namespace qly::documents

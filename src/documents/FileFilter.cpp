@@ -1,0 +1,20 @@
+#include "documents/FileFilter.h"
+
+#include "core/Settings.h"
+
+namespace qly::documents {
+
+QString FileFilter()
+{
+    QString masks = QStringLiteral("*.htm;*.html;*.shtml;*.ht3;*.pub");
+    const QString ext = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Extension"));
+    if (!ext.isEmpty()) {
+        const QString mask = QStringLiteral("*.") + ext.toLower();
+        if (!masks.split(u';').contains(mask))
+            masks += u';' + mask;
+    }
+    return QStringLiteral("Web Pages (") + masks + QStringLiteral(")|") + masks
+           + QStringLiteral("|Text Files (*.txt)|*.txt|CGI Files|*.cgi;*.pl;*.tcl;*.c|All Files|*.*");
+}
+
+} // namespace qly::documents

@@ -1,0 +1,298 @@
+#include "documents/ui/DocumentWindow.h"
+
+#include "core/Globals.h"
+#include "core/ui/Twips.h"
+#include "core/Workspace.h"
+#include "documents/DocumentList.h"
+#include "documents/FileRegistry.h"
+#include "documents/ui/ScintillaEdit.h"
+#include "platform/Prompts.h"
+
+#include <Qsci/qsciscintilla.h>
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWebEngineHistory>
+#include <QWebEngineView>
+
+namespace qly::documents::ui {
+
+DocumentWindow::DocumentWindow(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_tabDoc = new QTabWidget(this);
+    m_tabDoc->setObjectName(QStringLiteral("tabDoc"));
+    m_tabDoc->setTabPosition(QTabWidget::South);
+    m_tabDoc->setDocumentMode(true);
+    layout->addWidget(m_tabDoc);
+
+    m_edit = new ScintillaEdit(m_tabDoc);
+    m_edit->setObjectName(QStringLiteral("txtDoc"));
+    m_edit->view()->setObjectName(QStringLiteral("txtDoc"));
+    m_tabDoc->addTab(m_edit->view(), tr("Edit"));
+
+    m_previewPage = new QWidget(m_tabDoc);
+    buildPreviewPage(m_previewPage);
+    m_tabDoc->addTab(m_previewPage, tr("Preview"));
+
+    m_edit->view()->installEventFilter(this);
+    m_edit->view()->viewport()->installEventFilter(this);
+    connect(m_edit, &ScintillaEdit::caretMoved, this, &DocumentWindow::updatePosition);
+    connect(m_tabDoc, &QTabWidget::currentChanged, this, &DocumentWindow::onTabChanged);
+    setFocusProxy(m_edit->view());
+}
+
+DocumentWindow::~DocumentWindow()
+{
+    if (filenum != 0)
+        FileRegistry::instance().ForgetFile(filenum);
+}
+
+void DocumentWindow::buildPreviewPage(QWidget *page)
+{
+    m_previewLayout = new QVBoxLayout(page);
+    m_previewLayout->setContentsMargins(0, 0, 0, 0);
+    auto *toolbar = new QWidget(page);
+    toolbar->setObjectName(QStringLiteral("picToolbar"));
+    auto *row = new QHBoxLayout(toolbar);
+    row->setContentsMargins(2, 2, 2, 2);
+    auto addButton = [&](const char *name, const QString &text, auto slot) {
+        auto *b = new QToolButton(toolbar);
+        b->setObjectName(QString::fromLatin1(name));
+        b->setText(text);
+        connect(b, &QToolButton::clicked, this, slot);
+        row->addWidget(b);
+    };
+    addButton("cmdBack", tr("Back"), [this] { browser()->back(); });
+    addButton("cmdForward", tr("Forward"), [this] { browser()->forward(); });
+    addButton("cmdStop", tr("Stop"), [this] { browser()->stop(); });
+    addButton("cmdRefresh", tr("Refresh"), [this] { browser()->reload(); });
+    addButton("cmdHome", tr("Home"), [this] { ShowMyScout(true); });
+
+    m_lblHistory = new QLabel(QStringLiteral("History:"), toolbar);
+    m_lblHistory->setObjectName(QStringLiteral("lblHistory"));
+    m_lblHistory->installEventFilter(this);
+    row->addWidget(m_lblHistory);
+    m_cmbHistory = new QComboBox(toolbar);
+    m_cmbHistory->setObjectName(QStringLiteral("cmbHistory"));
+    m_cmbHistory->setEditable(true);
+    m_cmbHistory->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(m_cmbHistory->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+        browser()->setUrl(QUrl::fromUserInput(m_cmbHistory->currentText()));
+    });
+    row->addWidget(m_cmbHistory, 1);
+    m_cmdLinkTo = new QPushButton(QStringLiteral("Link To:"), toolbar);
+    m_cmdLinkTo->setObjectName(QStringLiteral("cmdLinkTo"));
+    m_cmdLinkTo->setEnabled(false);   // linking from the preview comes with link rewriting
+    row->addWidget(m_cmdLinkTo);
+    m_previewLayout->addWidget(toolbar);
+}
+
+QWebEngineView *DocumentWindow::browser()
+{
+    // Made on first use: the browser engine is costly, and most documents are never previewed.
+    if (!m_browser) {
+        m_browser = new QWebEngineView(m_previewPage);
+        m_browser->setObjectName(QStringLiteral("wbScout"));
+        m_previewLayout->addWidget(m_browser, 1);
+        connect(m_browser, &QWebEngineView::urlChanged, this, [this](const QUrl &url) {
+            const QString text = url.toString();
+            if (url.scheme() == QLatin1String("data") || text.isEmpty())
+                return;
+            if (m_cmbHistory->findText(text) < 0)
+                m_cmbHistory->insertItem(0, text);
+            m_cmbHistory->setCurrentText(text);
+        });
+    }
+    return m_browser;
+}
+
+platform::HTMLEdit &DocumentWindow::txtDoc()
+{
+    return *m_edit;
+}
+
+QMdiSubWindow *DocumentWindow::subWindow() const
+{
+    return qobject_cast<QMdiSubWindow *>(parentWidget());
+}
+
+QString DocumentWindow::caption() const
+{
+    return windowTitle();
+}
+
+void DocumentWindow::setCaption(const QString &caption)
+{
+    setWindowTitle(caption);
+}
+
+int DocumentWindow::windowState() const
+{
+    const QWidget *w = subWindow() ? static_cast<const QWidget *>(subWindow()) : this;
+    if (w->isMinimized())
+        return 1;
+    if (w->isMaximized())
+        return 2;
+    return 0;
+}
+
+void DocumentWindow::setWindowState(int state)
+{
+    QWidget *w = subWindow() ? static_cast<QWidget *>(subWindow()) : this;
+    switch (state) {
+    case 1: w->showMinimized(); break;
+    case 2: w->showMaximized(); break;
+    default: w->showNormal(); break;
+    }
+}
+
+QRect DocumentWindow::geometryTwips() const
+{
+    const QWidget *w = subWindow() ? static_cast<const QWidget *>(subWindow()) : this;
+    return core::ui::toTwips(w->geometry(), w);
+}
+
+void DocumentWindow::setGeometryTwips(const QRect &twips)
+{
+    QWidget *w = subWindow() ? static_cast<QWidget *>(subWindow()) : this;
+    w->setGeometry(core::ui::fromTwips(twips, w));
+}
+
+int DocumentWindow::currentTab() const
+{
+    return m_tabDoc->currentIndex();
+}
+
+void DocumentWindow::selectTab(int tab)
+{
+    if (tab >= 0 && tab < m_tabDoc->count())
+        m_tabDoc->setCurrentIndex(tab);
+}
+
+void DocumentWindow::activate()
+{
+    if (QMdiSubWindow *sub = subWindow()) {
+        if (sub->mdiArea())
+            sub->mdiArea()->setActiveSubWindow(sub);
+    }
+    m_edit->SetFocus();
+}
+
+void DocumentWindow::ShowMyScout(bool)
+{
+    QUrl base;
+    if (!LocalFileName.isEmpty())
+        base = QUrl::fromLocalFile(QFileInfo(LocalFileName).absolutePath() + u'/');
+    browser()->setHtml(m_edit->Text(), base);
+    bNeedsPreview = false;
+}
+
+void DocumentWindow::onTabChanged(int tab)
+{
+    const int old = m_lastTab;
+    m_lastTab = tab;
+    if (core::gLoadingDocument && tab == old)
+        return;
+    if (old == 1 && m_browser)
+        m_browser->stop();
+    if (tab == 0) {
+        m_edit->SetFocus();
+        m_lblHistory->setVisible(false);
+        m_cmdLinkTo->setVisible(false);
+    } else if (tab == 1) {
+        m_lblHistory->setVisible(true);
+        m_cmdLinkTo->setVisible(true);
+        ShowMyScout();
+    }
+}
+
+void DocumentWindow::closeWithoutQuery()
+{
+    m_skipQuery = true;
+    if (QMdiSubWindow *sub = subWindow())
+        sub->close();
+    else
+        close();
+}
+
+void DocumentWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_skipQuery && DocumentCloseQuery(*this)) {
+        event->ignore();
+        return;
+    }
+    m_closing = true;
+    event->accept();
+}
+
+QString DocumentWindow::positionText() const
+{
+    int line = 0;
+    int column = 0;
+    m_edit->GetLineAndCol(line, column);
+    return QStringLiteral("Ln:") + QString::number(line) + QStringLiteral(" Chr:") + QString::number(column);
+}
+
+void DocumentWindow::updatePosition()
+{
+    const QString text = positionText();
+    emit positionChanged(text);
+    core::Workspace *ws = core::Workspace::instance();
+    if (ws && ws->activeDocument() == this)
+        ws->setPositionText(text);
+}
+
+bool DocumentWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_lblHistory && event->type() == QEvent::MouseButtonRelease) {
+        platform::MsgBox(QStringLiteral("I don't do anything, please don't click on me"));
+        return true;
+    }
+    switch (event->type()) {
+    case QEvent::KeyRelease: {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        const bool plainRight = key->key() == Qt::Key_Right && key->modifiers() == Qt::NoModifier;
+        if (!plainRight && m_edit->Dirty())
+            bNeedsPreview = true;
+        updatePosition();
+        break;
+    }
+    case QEvent::FocusIn:
+        updatePosition();
+        emit activated();
+        break;
+    case QEvent::MouseButtonPress: {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        m_altClick = mouse->button() == Qt::LeftButton && (mouse->modifiers() & Qt::AltModifier)
+                     && m_edit->SelLength() == 0;
+        break;
+    }
+    case QEvent::MouseButtonRelease:
+        if (m_altClick) {
+            m_altClick = false;
+            m_edit->SelectTag();
+        }
+        updatePosition();
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace qly::documents::ui

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "documents/Document.h"
+
+#include <QWidget>
+
+class QTabWidget;
+class QToolButton;
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+class QWebEngineView;
+class QMdiSubWindow;
+
+namespace qly::documents::ui {
+
+class ScintillaEdit;
+
+// A document window: the edit tab with the buffer, and the preview tab with
+// its browser and toolbar. The two kinds below differ only in small points.
+class DocumentWindow : public QWidget, public Document
+{
+    Q_OBJECT
+public:
+    explicit DocumentWindow(QWidget *parent = nullptr);
+    ~DocumentWindow() override;
+
+    platform::HTMLEdit &txtDoc() override;
+    ScintillaEdit *edit() const { return m_edit; }
+
+    QString caption() const override;
+    void setCaption(const QString &caption) override;
+    int windowState() const override;
+    void setWindowState(int state) override;
+    QRect geometryTwips() const override;
+    void setGeometryTwips(const QRect &twips) override;
+    int currentTab() const override;
+    void selectTab(int tab) override;
+    void activate() override;
+    void ShowMyScout(bool force = false) override;
+
+    // The applet support file that previews copy beside the page.
+    virtual QString appletHelperFile() const = 0;
+    // The kind name, as the window class is known.
+    virtual QString kindName() const = 0;
+
+    // Closes without the save question (the caller has asked already).
+    void closeWithoutQuery();
+    // True once the window has agreed to close.
+    bool isClosing() const { return m_closing; }
+    // The position panel text, "Ln:" line " Chr:" column.
+    QString positionText() const;
+
+signals:
+    void positionChanged(const QString &text);
+    void activated();
+
+protected:
+    // The key-up duty beyond marking the preview as stale.
+    virtual bool runsKeyHookOnKeyUp() const = 0;
+
+    void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QMdiSubWindow *subWindow() const;
+    void onTabChanged(int tab);
+    void updatePosition();
+    void buildPreviewPage(QWidget *page);
+    QWebEngineView *browser();
+
+    ScintillaEdit *m_edit = nullptr;
+    QTabWidget *m_tabDoc = nullptr;
+    QWidget *m_previewPage = nullptr;
+    QVBoxLayout *m_previewLayout = nullptr;
+    QWebEngineView *m_browser = nullptr;
+    QComboBox *m_cmbHistory = nullptr;
+    QLabel *m_lblHistory = nullptr;
+    QPushButton *m_cmdLinkTo = nullptr;
+    bool m_skipQuery = false;
+    bool m_closing = false;
+    bool m_altClick = false;
+    int m_lastTab = 0;
+};
+
+// The window kind made when [Display] "Explorer Internal" is on.
+class frmDocWeb final : public DocumentWindow
+{
+    Q_OBJECT
+public:
+    using DocumentWindow::DocumentWindow;
+    QString appletHelperFile() const override { return QStringLiteral("lfledhelp.class"); }
+    QString kindName() const override { return QStringLiteral("frmDocWeb"); }
+
+protected:
+    bool runsKeyHookOnKeyUp() const override { return true; }
+};
+
+// The window kind made otherwise.
+class frmDocSax final : public DocumentWindow
+{
+    Q_OBJECT
+public:
+    using DocumentWindow::DocumentWindow;
+    QString appletHelperFile() const override { return QStringLiteral("lfledhelper.class"); }
+    QString kindName() const override { return QStringLiteral("frmDocSax"); }
+
+protected:
+    bool runsKeyHookOnKeyUp() const override { return false; }
+};
+
+} // namespace qly::documents::ui
