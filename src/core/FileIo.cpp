@@ -24,7 +24,10 @@ IoResult readWholeFile(const QString &path, QByteArray &bytes)
 IoResult writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
     const QFileInfo info(path);
-    if (info.exists() && (!info.isFile() || !info.isWritable()))
+    // A file with no write permission at all is read-only, also for an
+    // administrator whom the system would let through.
+    constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    if (info.exists() && (!info.isFile() || !info.isWritable() || !(info.permissions() & anyWrite)))
         return {ErrFileAccess, QStringLiteral("Permission denied")};
 
     QSaveFile file(path);
