@@ -1,6 +1,7 @@
 #include "documents/ui/ScintillaEdit.h"
 
 #include "core/FileIo.h"
+#include "documents/TextSearch.h"
 #include "documents/ui/EditColors.h"
 
 #include <Qsci/qscilexerhtml.h>
@@ -190,6 +191,12 @@ int ScintillaEdit::Find(const QString &text, int start, int end, int options)
         start = 0;
     if (start >= end)
         return -1;
+    if (!(options & platform::FindMatchCase)) {
+        for (const QChar c : text) {
+            if (c.unicode() >= 0x80)
+                return findFolded(text, start, end, options);
+        }
+    }
     int flags = 0;
     if (options & platform::FindMatchCase)
         flags |= QsciScintillaBase::SCFIND_MATCHCASE;
@@ -204,6 +211,23 @@ int ScintillaEdit::Find(const QString &text, int start, int end, int options)
     if (!(options & platform::FindNoHighlight))
         send(Base::SCI_SETSEL, hit, send(Base::SCI_GETTARGETEND));
     return toChar(hit);
+}
+
+int ScintillaEdit::findFolded(const QString &text, int start, int end, int options)
+{
+    // Scintilla folds only ASCII letters in a search; other letters are
+    // compared here on the decoded range.
+    const long from = toByte(start);
+    const long to = toByte(end);
+    const auto *p = reinterpret_cast<const char *>(send(Base::SCI_GETRANGEPOINTER, from, to - from));
+    const QString range = QString::fromUtf8(p, to - from);
+    const int local = findInText(range, text, 0, -1, options);
+    if (local < 0)
+        return -1;
+    const int hit = start + local;
+    if (!(options & platform::FindNoHighlight))
+        SetSel(hit, hit + int(text.size()));
+    return hit;
 }
 
 void ScintillaEdit::Span(const QString &characters, bool forward, bool negate)

@@ -77,6 +77,7 @@ private:
     long toByte(int charPos) const;
     bool plainAscii() const;
     void applyColors();
+    int findFolded(const QString &text, int start, int end, int options);
 
     QsciScintilla *m_sci = nullptr;
     QsciLexerHTML *m_lexer = nullptr;
