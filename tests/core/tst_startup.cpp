@@ -1,0 +1,216 @@
+#include "core/Globals.h"
+#include "core/Paths.h"
+#include "core/Settings.h"
+#include "core/Shutdown.h"
+#include "core/Startup.h"
+#include "support/FakeWorkspace.h"
+#include "support/ScriptedPrompts.h"
+#include "support/TestEnv.h"
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+using namespace qly;
+
+class tst_Startup : public QObject
+{
+    Q_OBJECT
+private slots:
+    void iniSwitch_data();
+    void iniSwitch();
+    void iniFileIsChosenAndSeeded();
+    void geometryRoundTrip();
+    void commandLineWinsOverSession();
+    void newDocumentComesBeforeRestoredOnes();
+    void restoreStopsAtFirstEmptyKey();
+    void closeIsRefusedDuringStartup();
+    void cancelInSavePromptKeepsEverything();
+    void closeSweepsOnlyTheCurrentDirectory();
+};
+
+void tst_Startup::iniSwitch_data()
+{
+    QTest::addColumn<QString>("line");       // %1 stands for an existing file
+    QTest::addColumn<QString>("rest");
+    QTest::addColumn<bool>("switched");
+    QTest::addColumn<int>("boxes");
+    QTest::newRow("none") << QStringLiteral("page.html") << QStringLiteral("page.html") << false << 0;
+    QTest::newRow("before file") << QStringLiteral("/ini:%1 page.html") << QStringLiteral(" page.html") << true << 0;
+    QTest::newRow("after file, any case") << QStringLiteral("page.html /INI:%1") << QStringLiteral("page.html ") << true << 0;
+    QTest::newRow("missing file") << QStringLiteral("/ini:nothere.ini x") << QStringLiteral(" x") << false << 1;
+    QTest::newRow("no value") << QStringLiteral("a.html /ini:") << QStringLiteral("a.html ") << false << 1;
+    QTest::newRow("first only") << QStringLiteral("/ini:%1 /ini:%1") << QStringLiteral(" /ini:%1") << true << 0;
+}
+
+void tst_Startup::iniSwitch()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, rest);
+    QFETCH(bool, switched);
+    QFETCH(int, boxes);
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    const QString other = env.write(QStringLiteral("other.ini"), "[A]\r\nb=c\r\n");
+    const QString before = core::gIniFile;
+    const auto fill = [&](QString s) { return s.replace(QStringLiteral("%1"), other); };
+    QCOMPARE(core::ProcessCommandLine(fill(line)), fill(rest));
+    QCOMPARE(core::gIniFile, switched ? other : before);
+    QCOMPARE(prompts.shown.size(), boxes);
+    if (boxes)
+        QVERIFY(prompts.shown[0].text.startsWith(QStringLiteral("Error retrieving ")));
+    if (switched)
+        QCOMPARE(core::ReadSetting(QStringLiteral("a"), QStringLiteral("B")), QStringLiteral("c"));
+}
+
+void tst_Startup::iniFileIsChosenAndSeeded()
+{
+    test::TestEnv env;
+    const QByteArray oldConfig = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", env.path(QStringLiteral("config")).toLocal8Bit());
+    env.write(QStringLiteral("quillery.default.ini"), "[General]\r\nOpen New Document=Yes\r\n");
+    const QString user = env.path(QStringLiteral("config/quillery/quillery.ini"));
+    // No file anywhere: the shipped defaults are copied to the user's directory.
+    QCOMPARE(core::ChooseIniFile(), user);
+    QCOMPARE(env.read(user), QByteArray("[General]\r\nOpen New Document=Yes\r\n"));
+    // The user's own file is never overwritten.
+    env.write(QStringLiteral("config/quillery/quillery.ini"), "[Mine]\r\n");
+    QCOMPARE(core::ChooseIniFile(), user);
+    QCOMPARE(env.read(user), QByteArray("[Mine]\r\n"));
+    // A file beside the program's data wins: a portable installation.
+    env.write(QStringLiteral("quillery.ini"), "");
+    QCOMPARE(core::ChooseIniFile(), env.path(QStringLiteral("quillery.ini")));
+    qputenv("XDG_CONFIG_HOME", oldConfig);
+}
+
+void tst_Startup::geometryRoundTrip()
+{
+    test::TestEnv env;
+    QVERIFY(!core::ReadMainGeometry().normal);   // absent: maximized
+    core::WriteMainGeometry(true, QRect(150, 300, 9000, 6000));
+    core::MainGeometry g = core::ReadMainGeometry();
+    QVERIFY(g.normal);
+    QCOMPARE(QRect(g.left, g.top, g.width, g.height), QRect(150, 300, 9000, 6000));
+    // Maximized keeps the old position keys.
+    core::WriteMainGeometry(false, QRect());
+    QCOMPARE(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Window State")), QStringLiteral("Maximized"));
+    QCOMPARE(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Main Window Width")), QStringLiteral("9000"));
+    core::WriteSetting(QStringLiteral("Display"), QStringLiteral("Window State"), QStringLiteral("nORMAL"));
+    core::DeleteSetting(QStringLiteral("Display"), QStringLiteral("Main Window Top"));
+    g = core::ReadMainGeometry();
+    QVERIFY(g.normal);
+    QCOMPARE(g.top, -1);
+}
+
+void tst_Startup::commandLineWinsOverSession()
+{
+    test::TestEnv env;
+    test::FakeWorkspace ws;
+    const QString page = env.write(QStringLiteral("my page.html"), "<P>x");
+    const QString other = env.write(QStringLiteral("other.html"), "o");
+    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Open New Document"), QStringLiteral("yes"));
+    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Restore Last Session"), QStringLiteral("yes"));
+    core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("1"), other + QStringLiteral(",0,1,1,1,1"));
+    int newDocs = 0;
+    core::OpenStartupDocuments(u' ' + page + u' ', {[&] { ++newDocs; }, {}});
+    QCOMPARE(newDocs, 0);
+    QCOMPARE(ws.count(), 1);
+    QCOMPARE(ws.document(0)->caption(), page);
+    QCOMPARE(ws.document(0)->edit.Text(), QStringLiteral("<P>x"));
+}
+
+void tst_Startup::newDocumentComesBeforeRestoredOnes()
+{
+    test::TestEnv env;
+    test::FakeWorkspace ws;
+    const QString a = env.write(QStringLiteral("a.html"), "a");
+    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Open New Document"), QStringLiteral("Yes"));
+    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Restore Last Session"), QStringLiteral("Yes"));
+    core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("1"), a + QStringLiteral(",2,7500,6000,15,30,1"));
+    core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("2"), QStringLiteral("/x/Site.PRJ,0,1,1,1,1"));
+    QStringList sites;
+    core::OpenStartupDocuments(QString(), {[&] { ws.addDocument(QStringLiteral("Untitled-1"), {}); },
+                                           [&](const QString &p) { sites << p; }});
+    QCOMPARE(ws.count(), 2);
+    QCOMPARE(ws.document(0)->caption(), QStringLiteral("Untitled-1"));
+    QCOMPARE(ws.document(1)->caption(), a);
+    QCOMPARE(ws.document(1)->windowState(), 2);
+    QCOMPARE(ws.document(1)->currentTab(), 1);
+    QCOMPARE(sites, QStringList{QStringLiteral("/x/Site.PRJ")});
+}
+
+void tst_Startup::restoreStopsAtFirstEmptyKey()
+{
+    test::TestEnv env;
+    test::FakeWorkspace ws;
+    const QString a = env.write(QStringLiteral("a.html"), "a");
+    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Restore Last Session"), QStringLiteral("Yes"));
+    core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("2"), a + QStringLiteral(",0,1,1,1,1"));
+    core::OpenStartupDocuments(QString(), {});
+    QCOMPARE(ws.count(), 0);
+}
+
+void tst_Startup::closeIsRefusedDuringStartup()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    test::FakeWorkspace ws;
+    core::gStartupPassed = false;
+    int unloads = 0;
+    core::shutdownHooks().unloadAllForms = [&] { ++unloads; };
+    QVERIFY(!core::CloseEverything());
+    QCOMPARE(prompts.texts(), QStringList{QStringLiteral(
+        "Quillery has not yet finished its startup process. Please try again in a few seconds ")});
+    QCOMPARE(prompts.shown[0].title, QStringLiteral("Quillery 4.01 - Error"));
+    QCOMPARE(unloads, 0);
+    core::shutdownHooks() = {};
+}
+
+void tst_Startup::cancelInSavePromptKeepsEverything()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    test::FakeWorkspace ws;
+    const QString file = env.write(QStringLiteral("a.html"), "old");
+    ws.addDocument(file, QStringLiteral("new text"), file);
+    int unloads = 0;
+    core::shutdownHooks().unloadAllForms = [&] { ++unloads; };
+    prompts.answer(platform::Answer::Cancel);
+    QVERIFY(!core::CloseEverything());
+    QCOMPARE(prompts.texts(), QStringList{QStringLiteral("Do you want to save ") + file + u'?'});
+    QCOMPARE(unloads, 0);
+    QVERIFY(!core::gClosing);
+    QCOMPARE(env.read(file), QByteArray("old"));
+    QVERIFY(ws.document(0)->edit.Dirty());
+    // Asked again, Yes saves and the program goes.
+    prompts.answer(platform::Answer::Yes);
+    QVERIFY(core::CloseEverything());
+    QCOMPARE(env.read(file), QByteArray("new text"));
+    QCOMPARE(unloads, 1);
+    QCOMPARE(core::ReadSetting(QStringLiteral("Last Session"), QStringLiteral("1")).section(u',', 0, 0), file);
+    core::shutdownHooks() = {};
+}
+
+void tst_Startup::closeSweepsOnlyTheCurrentDirectory()
+{
+    test::TestEnv env;
+    test::FakeWorkspace ws;
+    const QString docs = env.path(QStringLiteral("docs"));
+    const QString autosave = env.path(QStringLiteral("autosave"));
+    QDir().mkpath(docs);
+    QDir().mkpath(autosave);
+    core::WriteSetting(QStringLiteral("File Locations"), QStringLiteral("Documents"), docs);
+    core::WriteSetting(QStringLiteral("File Locations"), QStringLiteral("AutoSave"), autosave);
+    env.write(QStringLiteral("docs/~qly1234.tmp"), "t");
+    env.write(QStringLiteral("docs/~qlpreview.htm"), "t");
+    env.write(QStringLiteral("docs/keep.htm"), "k");
+    env.write(QStringLiteral("here.qnb"), "a");           // the current directory
+    env.write(QStringLiteral("autosave/kept.qnb"), "a");
+    QVERIFY(core::CloseEverything());
+    QCOMPARE(QDir(docs).entryList(QDir::Files), QStringList{QStringLiteral("keep.htm")});
+    QVERIFY(!QFile::exists(env.path(QStringLiteral("here.qnb"))));
+    QVERIFY(QFile::exists(env.path(QStringLiteral("autosave/kept.qnb"))));
+}
+
+QTEST_GUILESS_MAIN(tst_Startup)
+#include "tst_startup.moc"
