@@ -1,0 +1,165 @@
+// The real main window with real document windows, offscreen.
+#include "core/Globals.h"
+#include "core/Settings.h"
+#include "core/Feedback.h"
+#include "core/StatusText.h"
+#include "core/ui/CommandTable.h"
+#include "core/ui/MainWindow.h"
+#include "core/ui/StatusPanels.h"
+#include "documents/DocumentList.h"
+#include "documents/ui/DocumentWindow.h"
+#include "documents/ui/ScintillaEdit.h"
+#include "support/ScriptedPrompts.h"
+#include "support/TestEnv.h"
+
+#include <Qsci/qsciscintilla.h>
+
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QtTest>
+
+using namespace qly;
+using documents::ui::DocumentWindow;
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void windowKindAndSettingsFollowTheConfiguration();
+    void openedFileShowsItsTextAndPosition();
+    void closeAsksAboutChangedDocuments();
+    void commandsReachTheActiveDocument();
+    void statusTextClearsAfterFourSeconds();
+
+private:
+    std::unique_ptr<test::TestEnv> m_env;
+    std::unique_ptr<test::ScriptedPrompts> m_prompts;
+    std::unique_ptr<core::ui::frmMain> m_main;
+};
+
+void tst_MainWindow::init()
+{
+    m_env = std::make_unique<test::TestEnv>();
+    m_prompts = std::make_unique<test::ScriptedPrompts>();
+    m_main = std::make_unique<core::ui::frmMain>();
+    core::Workspace::setInstance(m_main.get());
+    m_main->resize(900, 700);
+    m_main->show();
+}
+
+void tst_MainWindow::cleanup()
+{
+    for (documents::Document *d : m_main->documentList())
+        m_main->unloadDocument(d);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_main.reset();
+    m_prompts.reset();
+    m_env.reset();
+}
+
+void tst_MainWindow::windowKindAndSettingsFollowTheConfiguration()
+{
+    core::WriteSetting(QStringLiteral("Display"), QStringLiteral("WordWrap"), QStringLiteral("Yes"));
+    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Font Size"), QStringLiteral("14"));
+    auto *sax = dynamic_cast<DocumentWindow *>(documents::CreateDocumentWindow());
+    QVERIFY(sax);
+    QCOMPARE(sax->kindName(), QStringLiteral("frmDocSax"));
+    QVERIFY(sax->txtDoc().WordWrap());
+    QCOMPARE(sax->txtDoc().FontName(), QStringLiteral("MS Sans Serif"));
+    QCOMPARE(sax->txtDoc().FontSize(), 14);
+    QCOMPARE(sax->txtDoc().ColorMode(), platform::ColorOff);
+    QCOMPARE(sax->windowState(), 0);
+
+    core::WriteSetting(QStringLiteral("Display"), QStringLiteral("Explorer Internal"), QStringLiteral("yes"));
+    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Always Maximize"), QStringLiteral("Yes"));
+    core::gColorHTML = true;
+    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Quick Color"), QStringLiteral("1"));
+    auto *web = dynamic_cast<DocumentWindow *>(documents::CreateDocumentWindow());
+    QCOMPARE(web->kindName(), QStringLiteral("frmDocWeb"));
+    QCOMPARE(web->windowState(), 2);
+    // "1" as the status bar writes it reads as off: entire tags.
+    QCOMPARE(web->txtDoc().ColorMode(), platform::ColorEntireTags);
+    QCOMPARE(m_main->documentList().size(), 2);
+    QCOMPARE(m_main->activeDocument(), web);
+    core::gLoadingDocument = false;
+}
+
+void tst_MainWindow::openedFileShowsItsTextAndPosition()
+{
+    const QString file = m_env->write(QStringLiteral("page.html"), "<HTML>\r\n<BODY>caf\xe9</BODY>\r\n</HTML>\r\n");
+    QVERIFY(documents::OpenDocumentFile(file));
+    QVERIFY(!core::gLoadingDocument);
+    auto *doc = dynamic_cast<DocumentWindow *>(m_main->activeDocument());
+    QVERIFY(doc);
+    QCOMPARE(doc->caption(), file);
+    QCOMPARE(doc->LocalFileName, file);
+    QVERIFY(doc->IsSaved());
+    QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<HTML>\r\n<BODY>café</BODY>\r\n</HTML>\r\n"));
+    QVERIFY(!doc->txtDoc().Dirty());
+    QVERIFY(doc->filenum != 0);
+    doc->txtDoc().setSelStart(12);
+    QCOMPARE(m_main->statusPanels().panel(QStringLiteral("Line"))->text(), QStringLiteral("Ln:2 Chr:5"));
+    QCOMPARE(documents::SessionEntry(*doc).section(u',', 0, 1), file + QStringLiteral(",0"));
+
+    // A missing file: the box, and no window.
+    QVERIFY(!documents::OpenDocumentFile(m_env->path(QStringLiteral("gone.html"))));
+    QCOMPARE(m_prompts->texts().last(), m_env->path(QStringLiteral("gone.html")) + QStringLiteral(": File not found."));
+    QCOMPARE(m_main->documentList().size(), 1);
+}
+
+void tst_MainWindow::closeAsksAboutChangedDocuments()
+{
+    const QString file = m_env->write(QStringLiteral("a.html"), "abc");
+    QVERIFY(documents::OpenDocumentFile(file));
+    auto *doc = dynamic_cast<DocumentWindow *>(m_main->activeDocument());
+    doc->txtDoc().setSelStart(3);
+    doc->txtDoc().setSelText(QStringLiteral("d"));
+
+    m_prompts->answer(platform::Answer::Cancel);
+    m_main->mdiArea()->currentSubWindow()->close();
+    QCOMPARE(m_main->documentList().size(), 1);
+    QCOMPARE(m_prompts->texts().last(), QStringLiteral("Do you want to save ") + file + u'?');
+
+    m_prompts->answer(platform::Answer::Yes);
+    m_main->commands().run(QStringLiteral("mnuClose"));
+    QCOMPARE(m_main->documentList().size(), 0);
+    QCOMPARE(m_env->read(file), QByteArray("abcd"));
+    QCOMPARE(m_prompts->unanswered, 0);
+}
+
+void tst_MainWindow::commandsReachTheActiveDocument()
+{
+    QVERIFY(m_main->commands().run(QStringLiteral("EditSelectAll")));   // no document: nothing happens
+    const QString file = m_env->write(QStringLiteral("b.html"), "<B>x</B>");
+    QVERIFY(documents::OpenDocumentFile(file));
+    platform::HTMLEdit &e = m_main->activeDocument()->txtDoc();
+    QVERIFY(m_main->commands().run(QStringLiteral("EditSelectAll")));
+    QCOMPARE(e.SelText(), QStringLiteral("<B>x</B>"));
+    e.setSelStart(1);
+    QVERIFY(m_main->commands().run(QStringLiteral("EditSelectTag")));
+    QCOMPARE(e.SelText(), QStringLiteral("<B>"));
+    e.setSelText(QStringLiteral("<I>"));
+    QVERIFY(m_main->commands().run(QStringLiteral("EditUndo")));
+    QCOMPARE(e.Text(), QStringLiteral("<B>x</B>"));
+    QVERIFY(m_main->commands().run(QStringLiteral("mnuSave")));
+    QCOMPARE(m_env->read(file), QByteArray("<B>x</B>"));
+    QVERIFY(!e.Dirty());
+}
+
+void tst_MainWindow::statusTextClearsAfterFourSeconds()
+{
+    core::StatusText &status = core::StatusText::instance();
+    core::ShowStatus(QStringLiteral("Working"));
+    QCOMPARE(m_main->statusPanels().panel(QStringLiteral("Status"))->text(), QStringLiteral("Working"));
+    QVERIFY(status.clearPending());
+    core::ShowStatus(QStringLiteral("WORKING"));   // the same text in another case changes nothing
+    QCOMPARE(status.text(), QStringLiteral("Working"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->statusPanels().panel(QStringLiteral("Status"))->text(), QString(), 6000);
+    QVERIFY(!status.clearPending());
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_mainwindow.moc"
