@@ -32,6 +32,16 @@ if [ -z "$found" ]; then
   exit 1
 fi
 sleep 1
+# A second copy ends at once, silently, and drops its file.
+second="$(dirname "$page")/second.html"
+printf 'x' > "$second"
+timeout 20 "$exe" "$second"
+rc=$?
+if [ "$rc" -ne 0 ]; then
+  echo "FAIL: the second copy did not end by itself (status $rc)"
+  kill -9 "$pid"
+  exit 1
+fi
 if [ -n "$QUILLERY_SMOKE_SHOT" ] && command -v import >/dev/null; then
   import -window root "$QUILLERY_SMOKE_SHOT" || true
 fi
@@ -48,6 +58,7 @@ INNER
 fail=0
 grep -q '^Window State=' "$ini" || { echo "FAIL: no [Display] Window State in $ini"; fail=1; }
 grep -q "^1=$page," "$ini" || { echo "FAIL: the open file is not in [Last Session]"; fail=1; }
+grep -q "second.html" "$ini" && { echo "FAIL: the second copy's file was opened"; fail=1; }
 cmp -s "$page" "$work/original.html" || { echo "FAIL: the page was changed"; fail=1; }
 if [ "$fail" -ne 0 ]; then
   echo "--- $ini"; cat "$ini"

@@ -84,6 +84,9 @@ documents::Document *frmMain::makeDocumentWindow(bool explorerInternal)
                                            : static_cast<DocumentWindow *>(new documents::ui::frmDocSax);
     QMdiSubWindow *sub = m_mdi->addSubWindow(doc);
     sub->setAttribute(Qt::WA_DeleteOnClose);
+    // A new window takes most of the area; stored geometry, when there is some, comes later.
+    const QSize area = m_mdi->viewport()->size();
+    sub->resize(std::max(400, area.width() * 3 / 4), std::max(300, area.height() * 3 / 4));
     sub->show();
     m_mdi->setActiveSubWindow(sub);
     return doc;
