@@ -9,23 +9,43 @@ CommandTable::CommandTable(QObject *parent)
 {
 }
 
+QAction *CommandTable::declare(const QString &name, const QString &caption, const QKeySequence &key)
+{
+    Q_ASSERT_X(!m_actions.contains(name), "CommandTable::declare", "command declared twice");
+    auto *action = new QAction(caption, this);
+    action->setObjectName(name);
+    action->setShortcut(key);
+    action->setToolTip(QString(caption).remove(u'&').remove(QStringLiteral("...")));
+    action->setEnabled(false);
+    m_actions.insert(name, action);
+    m_order << name;
+    return action;
+}
+
+QAction *CommandTable::bind(const QString &name, std::function<void()> run)
+{
+    QAction *action = m_actions.value(name);
+    Q_ASSERT_X(action, "CommandTable::bind", "binding a command that was never declared");
+    if (!action)
+        return nullptr;
+    Q_ASSERT_X(!action->isEnabled(), "CommandTable::bind", "command bound twice");
+    connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
+    action->setEnabled(true);
+    return action;
+}
+
 QAction *CommandTable::add(const Command &command)
 {
-    Q_ASSERT_X(!m_actions.contains(command.name), "CommandTable::add", "command registered twice");
-    auto *action = new QAction(command.caption, this);
-    action->setObjectName(command.name);
-    action->setShortcut(command.shortcut);
-    action->setStatusTip(command.tip);
-    action->setToolTip(command.tip.isEmpty() ? QString(command.caption).remove(u'&') : command.tip);
-    action->setCheckable(command.checkable);
-    if (command.run) {
-        const auto run = command.run;
-        connect(action, &QAction::triggered, this, [run] { run(); });
-    } else {
-        action->setEnabled(false);
+    QAction *action = m_actions.value(command.name);
+    if (!action)
+        action = declare(command.name, command.caption, command.shortcut);
+    if (!command.tip.isEmpty()) {
+        action->setStatusTip(command.tip);
+        action->setToolTip(command.tip);
     }
-    m_actions.insert(command.name, action);
-    m_order << command.name;
+    action->setCheckable(command.checkable);
+    if (command.run)
+        bind(command.name, command.run);
     return action;
 }
 

@@ -29,6 +29,11 @@ public:
         bool checkable = false;
     };
 
+    // Declares a command without its work: it shows disabled until bound.
+    QAction *declare(const QString &name, const QString &caption, const QKeySequence &key = {});
+    // Gives a declared command its work and enables it.
+    QAction *bind(const QString &name, std::function<void()> run);
+    // Declares (when new) and binds in one statement.
     QAction *add(const Command &command);
     QAction *action(const QString &name) const;
     bool contains(const QString &name) const { return m_actions.contains(name); }

@@ -1,14 +1,14 @@
 #include "core/ui/Commands.h"
 
+#include "core/Workspace.h"
+#include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "core/ui/MainWindow.h"
-#include "core/Workspace.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/FileMenu.h"
 #include "platform/HTMLEdit.h"
 
-#include <QKeySequence>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -35,74 +35,54 @@ std::function<void()> onDocument(Work work)
     };
 }
 
+QString N(const char *name)
+{
+    return QString::fromLatin1(name);
+}
+
 } // namespace
 
 void registerCommands(CommandTable &t, frmMain &w)
 {
-    using K = QKeySequence;
     using platform::HTMLEdit;
     using documents::Document;
+    for (const CommandInfo &info : commandCatalogue())
+        t.declare(info.name, info.caption, info.key);
 
     // File
-    t.add({QStringLiteral("mnuNew"), QStringLiteral("&New"), {}, K(K::New)});
-    t.add({QStringLiteral("mnuOpen"), QStringLiteral("&Open..."), [] { documents::mnuOpen_Click(); }, K(K::Open)});
-    t.add({QStringLiteral("mnuSave"), QStringLiteral("&Save"), onDocument([](Document &d) { d.Save(); }), K(K::Save)});
-    t.add({QStringLiteral("mnuSaveAs"), QStringLiteral("Save &As..."), onDocument([](Document &d) { d.SaveAs(); }),
-           K(K::SaveAs)});
-    t.add({QStringLiteral("mnuSaveAll"), QStringLiteral("Sa&ve All"), [] { documents::SaveAllDocuments(false); }});
-    t.add({QStringLiteral("mnuClose"), QStringLiteral("&Close"), [&w] {
-               if (QMdiSubWindow *sub = w.mdiArea()->currentSubWindow())
-                   sub->close();
-           }, K(K::Close)});
-    t.add({QStringLiteral("mnuPrint"), QStringLiteral("&Print..."),
-           onDocument([](Document &d) { d.txtDoc().PrintMe(d.caption()); }), K(K::Print)});
-    t.add({QStringLiteral("mnuExit"), QStringLiteral("E&xit"), [&w] { w.close(); }, K(K::Quit)});
+    t.bind(N("mnuOpen"), [] { documents::mnuOpen_Click(); });
+    t.bind(N("mnuSave"), onDocument([](Document &d) { d.Save(); }));
+    t.bind(N("mnuSaveAs"), onDocument([](Document &d) { d.SaveAs(); }));
+    t.bind(N("mnuSaveAll"), [] { documents::SaveAllDocuments(false); });
+    t.bind(N("mnuClose"), [&w] {
+        if (QMdiSubWindow *sub = w.mdiArea()->currentSubWindow())
+            sub->close();
+    });
+    t.bind(N("mnuPrint"), onDocument([](Document &d) { d.txtDoc().PrintMe(d.caption()); }));
+    t.bind(N("mnuExit"), [&w] { w.close(); });
 
     // Edit
-    t.add({QStringLiteral("EditUndo"), QStringLiteral("&Undo"), onBuffer([](HTMLEdit &e) { e.Undo(); }), K(K::Undo)});
-    t.add({QStringLiteral("EditRedo"), QStringLiteral("&Redo"), onBuffer([](HTMLEdit &e) { e.Redo(); }), K(K::Redo)});
-    t.add({QStringLiteral("EditCut"), QStringLiteral("Cu&t"), onBuffer([](HTMLEdit &e) { e.Cut(); }), K(K::Cut)});
-    t.add({QStringLiteral("EditCopy"), QStringLiteral("&Copy"), onBuffer([](HTMLEdit &e) { e.Copy(); }), K(K::Copy)});
-    t.add({QStringLiteral("EditPaste"), QStringLiteral("&Paste"), onBuffer([](HTMLEdit &e) { e.Paste(); }), K(K::Paste)});
-    t.add({QStringLiteral("EditSelectAll"), QStringLiteral("Se&lect All"), onBuffer([](HTMLEdit &e) {
-               e.setSelStart(0);
-               e.setSelLength(e.GetTextLength());
-           }), K(K::SelectAll)});
-    t.add({QStringLiteral("EditSelectTag"), QStringLiteral("Select T&his Tag"),
-           onBuffer([](HTMLEdit &e) { e.SelectTag(); })});
-
-    // Tools
-    t.add({QStringLiteral("ToolsOptions"), QStringLiteral("&Options..."), {}});
+    t.bind(N("EditUndo"), onBuffer([](HTMLEdit &e) { e.Undo(); }));
+    t.bind(N("EditRedo"), onBuffer([](HTMLEdit &e) { e.Redo(); }));
+    t.bind(N("EditCut"), onBuffer([](HTMLEdit &e) { e.Cut(); }));
+    t.bind(N("EditCopy"), onBuffer([](HTMLEdit &e) { e.Copy(); }));
+    t.bind(N("EditPaste"), onBuffer([](HTMLEdit &e) { e.Paste(); }));
+    t.bind(N("EditSelectAll"), onBuffer([](HTMLEdit &e) {
+        e.setSelStart(0);
+        e.setSelLength(e.GetTextLength());
+    }));
+    t.bind(N("EditSelectTag"), onBuffer([](HTMLEdit &e) { e.SelectTag(); }));
 
     // Window
-    t.add({QStringLiteral("mnuWindow0"), QStringLiteral("&Cascade"), [&w] { w.mdiArea()->cascadeSubWindows(); }});
-    t.add({QStringLiteral("mnuWindow1"), QStringLiteral("&Tile"), [&w] { w.mdiArea()->tileSubWindows(); }});
-    t.add({QStringLiteral("mnuWindow2"), QStringLiteral("&Arrange Icons"), [&w] { w.mdiArea()->tileSubWindows(); }});
-    t.add({QStringLiteral("mnuWindow4"), QStringLiteral("C&lose All"), [&w] {
-               if (!documents::SaveAllDocuments(true))
-                   return;
-               for (documents::Document *d : w.documentList())
-                   w.unloadDocument(d);
-           }});
-}
-
-const std::vector<MenuLayout> &menuLayout()
-{
-    static const std::vector<MenuLayout> layout = {
-        {QStringLiteral("mnuFile"), QStringLiteral("&File"),
-         {QStringLiteral("mnuNew"), QStringLiteral("mnuOpen"), QStringLiteral("mnuSave"), QStringLiteral("mnuSaveAs"),
-          QStringLiteral("mnuSaveAll"), QStringLiteral("mnuClose"), QString(), QStringLiteral("mnuPrint"), QString(),
-          QStringLiteral("mnuExit")}},
-        {QStringLiteral("mnuHdg"), QStringLiteral("&Edit"),
-         {QStringLiteral("EditUndo"), QStringLiteral("EditRedo"), QString(), QStringLiteral("EditCut"),
-          QStringLiteral("EditCopy"), QStringLiteral("EditPaste"), QString(), QStringLiteral("EditSelectAll"),
-          QStringLiteral("EditSelectTag")}},
-        {QStringLiteral("Tools"), QStringLiteral("&Tools"), {QStringLiteral("ToolsOptions")}},
-        {QStringLiteral("Window"), QStringLiteral("&Window"),
-         {QStringLiteral("mnuWindow0"), QStringLiteral("mnuWindow1"), QStringLiteral("mnuWindow2"), QString(),
-          QStringLiteral("mnuWindow4")}},
-    };
-    return layout;
+    t.bind(N("mnuWindow0"), [&w] { w.mdiArea()->cascadeSubWindows(); });
+    t.bind(N("mnuWindow1"), [&w] { w.mdiArea()->tileSubWindows(); });
+    t.bind(N("mnuWindow2"), [&w] { w.mdiArea()->tileSubWindows(); });
+    t.bind(N("mnuWindow4"), [&w] {
+        if (!documents::SaveAllDocuments(true))
+            return;
+        for (documents::Document *d : w.documentList())
+            w.unloadDocument(d);
+    });
 }
 
 } // namespace qly::core::ui

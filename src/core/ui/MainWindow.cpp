@@ -6,6 +6,7 @@
 #include "core/Paths.h"
 #include "core/Shutdown.h"
 #include "core/Startup.h"
+#include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "core/ui/Commands.h"
 #include "core/ui/StatusPanels.h"
@@ -49,13 +50,21 @@ frmMain::~frmMain()
 void frmMain::buildMenus()
 {
     for (const MenuLayout &menu : menuLayout()) {
-        QMenu *m = menuBar()->addMenu(menu.caption);
-        m->setObjectName(menu.name);
+        QMenu *top = menuBar()->addMenu(menu.caption);
+        top->setObjectName(menu.name);
+        QMenu *m = top;
         for (const QString &name : menu.commands) {
-            if (name.isEmpty())
+            if (name.isEmpty()) {
                 m->addSeparator();
-            else if (QAction *a = m_commands->action(name))
+            } else if (name.startsWith(u'>')) {
+                const QStringList parts = name.mid(1).split(u'|');
+                m = top->addMenu(parts.value(1));
+                m->setObjectName(parts.value(0));
+            } else if (name == QLatin1String("<")) {
+                m = top;
+            } else if (QAction *a = m_commands->action(name)) {
                 m->addAction(a);
+            }
         }
     }
 }
