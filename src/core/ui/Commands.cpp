@@ -2,6 +2,7 @@
 
 #include "core/ui/CommandTable.h"
 #include "core/ui/MainWindow.h"
+#include "core/ui/frmOptions.h"
 #include "core/Workspace.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
@@ -72,7 +73,7 @@ void registerCommands(CommandTable &t, frmMain &w)
            onBuffer([](HTMLEdit &e) { e.SelectTag(); })});
 
     // Tools
-    t.add({QStringLiteral("ToolsOptions"), QStringLiteral("&Options..."), {}});
+    t.add({QStringLiteral("ToolsOptions"), QStringLiteral("&Options..."), [&w] { ShowOptions(w); }});
 
     // Window
     t.add({QStringLiteral("mnuWindow0"), QStringLiteral("&Cascade"), [&w] { w.mdiArea()->cascadeSubWindows(); }});
