@@ -65,6 +65,7 @@ frmOptions::frmOptions(QWidget *parent)
     setWindowTitle(QStringLiteral("Quillery Options"));
     m_tabs = new QTabWidget;
     m_tabs->setObjectName(QStringLiteral("tbOptions"));
+    m_tabs->setUsesScrollButtons(false);
     QWidget *pages[kOptionsTabCount] = {buildGeneral(), buildEditing(), buildColoring(), buildDisplay(),
                                         buildDirectories(), buildSpelling(), buildSaveStart(), buildBrowsers()};
     for (int i = 0; i < kOptionsTabCount; ++i)

@@ -48,7 +48,8 @@ private:
     QWidget *buildSaveStart();
     QWidget *buildBrowsers();
     QWidget *page(OptionsTab tab);
-    void addChecks(QBoxLayout *layout, OptionsTab tab);
+    // The check boxes of `tab`; with `section`, only those stored there.
+    void addChecks(QBoxLayout *layout, OptionsTab tab, QLatin1String section = {});
     QComboBox *combo(const QString &name, const QStringList &items, bool editable);
     void enterMovesOn(QWidget *widget);
 

@@ -47,10 +47,10 @@ QWidget *frmOptions::page(OptionsTab tab)
     return w;
 }
 
-void frmOptions::addChecks(QBoxLayout *layout, OptionsTab tab)
+void frmOptions::addChecks(QBoxLayout *layout, OptionsTab tab, QLatin1String section)
 {
     for (const CheckBinding &b : checkBindings()) {
-        if (b.tab != tab || b.id == OptionCheck::ColorHTML)
+        if (b.tab != tab || b.id == OptionCheck::ColorHTML || (!section.isEmpty() && b.section != section))
             continue;
         auto *box = new QCheckBox(b.caption);
         box->setObjectName(b.control);
@@ -269,16 +269,20 @@ QWidget *frmOptions::buildBrowsers()
     buttons->addStretch();
     h->addLayout(buttons);
     v->addLayout(h);
-    addChecks(v, OptionsTab::ExternalBrowsers);
+    addChecks(v, OptionsTab::ExternalBrowsers, QLatin1String("General"));
+    auto *publishing = new QGroupBox(QStringLiteral("Publishing"));
+    auto *p = new QVBoxLayout(publishing);
+    addChecks(p, OptionsTab::ExternalBrowsers, QLatin1String("Publishing"));
     m_pubExt = combo(QStringLiteral("cmbExtension"), OptionsModel::publishExtensions(), true);
-    v->addLayout(row(QStringLiteral("Extension of published documents:"), m_pubExt));
+    p->addLayout(row(QStringLiteral("Extension of published documents:"), m_pubExt));
     m_aliases = new QTableWidget(0, 2);
     m_aliases->setObjectName(QStringLiteral("grdAliases"));
     m_aliases->setHorizontalHeaderLabels({QStringLiteral("Word"), QStringLiteral("Replacement")});
     m_aliases->horizontalHeader()->setStretchLastSection(true);
     m_aliases->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_aliases->setToolTip(QStringLiteral("The words replaced on publishing are kept in aliases.inf"));
-    v->addWidget(m_aliases);
+    p->addWidget(m_aliases);
+    v->addWidget(publishing);
 
     find->setEnabled(bool(optionsHooks().findBrowsers));
     connect(add, &QPushButton::clicked, this, [this] { m_model.addBrowser(); showBrowsers(); });
