@@ -9,6 +9,7 @@ class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
+class QHBoxLayout;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -38,7 +39,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    // One builder per tab (frmOptionsPages.cpp).
+    // One builder per tab (frmOptionsPages.cpp, frmOptionsFiles.cpp).
     QWidget *buildGeneral();
     QWidget *buildEditing();
     QWidget *buildColoring();
@@ -51,6 +52,10 @@ private:
     // The check boxes of `tab`; with `section`, only those stored there.
     void addChecks(QBoxLayout *layout, OptionsTab tab, QLatin1String section = {});
     QComboBox *combo(const QString &name, const QStringList &items, bool editable);
+    // "name(i)", the name of a control in an array of controls.
+    static QString indexed(const char *control, int i);
+    // A label, a field and an optional label after it, in one row.
+    static QHBoxLayout *row(const QString &label, QWidget *field, const QString &after = {});
     void enterMovesOn(QWidget *widget);
 
     void showModel();
