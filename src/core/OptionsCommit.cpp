@@ -4,8 +4,8 @@
 #include "core/OptionsHooks.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
-#include "core/Startup.h"
 #include "core/Globals.h"
+#include "core/Startup.h"
 #include "core/Workspace.h"
 #include "documents/ColorTable.h"
 #include "documents/Document.h"
@@ -14,6 +14,8 @@
 #include "platform/Prompts.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace qly::core {
 

@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QRegularExpression>
 
+#include <cmath>
+
 namespace qly::core {
 
 namespace {
@@ -134,8 +136,8 @@ QString OptionsModel::normalizeScout(const QString &text)
     // The number at the start of the text, as far as it reads as one.
     static const QRegularExpression number(QStringLiteral("^\\s*[-+]?\\d*(\\.\\d*)?"));
     const double value = number.match(text).captured(0).trimmed().toDouble();
-    const long long whole = qAbs(static_cast<long long>(value));
-    return whole > 60 ? QStringLiteral("60") : QString::number(whole);
+    const double whole = std::trunc(qAbs(value));
+    return whole > 60 ? QStringLiteral("60") : QString::number(qint64(whole));
 }
 
 void OptionsModel::leaveLocation(int index)

@@ -123,6 +123,7 @@ void tst_Options::scoutIsCutToWholeSeconds_data()
     QTest::newRow("plain") << QStringLiteral("12") << QStringLiteral("12");
     QTest::newRow("negative fraction") << QStringLiteral("-7.9") << QStringLiteral("7");
     QTest::newRow("above 60") << QStringLiteral("75") << QStringLiteral("60");
+    QTest::newRow("huge") << QStringLiteral("99999999999999999999999") << QStringLiteral("60");
     QTest::newRow("trailing text") << QStringLiteral(" 3 sec") << QStringLiteral("3");
     QTest::newRow("no number") << QStringLiteral("abc") << QStringLiteral("0");
 }
