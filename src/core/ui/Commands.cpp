@@ -4,6 +4,7 @@
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "core/ui/MainWindow.h"
+#include "core/ui/frmOptions.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/FileMenu.h"
@@ -72,6 +73,10 @@ void registerCommands(CommandTable &t, frmMain &w)
         e.setSelLength(e.GetTextLength());
     }));
     t.bind(N("EditSelectTag"), onBuffer([](HTMLEdit &e) { e.SelectTag(); }));
+
+    // Tools
+    t.bind(N("ToolsOptions"), [&w] { ShowOptions(w); });
+    t.bind(N("EditBrowsers"), [&w] { ShowOptions(w, OptionsTab::ExternalBrowsers); });
 
     // Window
     t.bind(N("mnuWindow0"), [&w] { w.mdiArea()->cascadeSubWindows(); });

@@ -1,0 +1,214 @@
+#include "core/ui/frmOptions.h"
+
+#include "core/OptionsHooks.h"
+#include "core/Workspace.h"
+#include "core/ui/Main.h"
+#include "core/ui/MainWindow.h"
+#include "documents/Document.h"
+#include "documents/ui/EditColors.h"
+#include "platform/HTMLEdit.h"
+
+#include <Qsci/qscilexerhtml.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace qly::core::ui {
+
+namespace {
+
+// The colour an unset slot has in the edit buffer.
+QColor bufferDefaultColour(int slot)
+{
+    static const std::array<int, 12> styles = {
+        QsciLexerHTML::Tag, QsciLexerHTML::Attribute, QsciLexerHTML::OtherInTag,
+        QsciLexerHTML::HTMLDoubleQuotedString, QsciLexerHTML::Default, QsciLexerHTML::JavaScriptSymbol,
+        QsciLexerHTML::JavaScriptDoubleQuotedString, QsciLexerHTML::JavaScriptKeyword,
+        QsciLexerHTML::JavaScriptWord, QsciLexerHTML::Default, QsciLexerHTML::Default, QsciLexerHTML::UnknownTag,
+    };
+    QsciLexerHTML lexer;
+    platform::ColorTable unset;
+    unset.fill(-1);
+    documents::ui::applyEditColors(lexer, unset, false);
+    return lexer.color(styles[size_t(slot)]);
+}
+
+QColor storedColour(int v)
+{
+    return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF);
+}
+
+int toStored(const QColor &c)
+{
+    return c.red() + 256 * c.green() + 65536 * c.blue();
+}
+
+} // namespace
+
+frmOptions::frmOptions(QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmOptions"));
+    setWindowTitle(QStringLiteral("Quillery Options"));
+    m_tabs = new QTabWidget;
+    m_tabs->setObjectName(QStringLiteral("tbOptions"));
+    m_tabs->setUsesScrollButtons(false);
+    QWidget *pages[kOptionsTabCount] = {buildGeneral(), buildEditing(), buildColoring(), buildDisplay(),
+                                        buildDirectories(), buildSpelling(), buildSaveStart(), buildBrowsers()};
+    for (int i = 0; i < kOptionsTabCount; ++i)
+        m_tabs->addTab(pages[i], optionsTabCaption(OptionsTab(i)));
+
+    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
+    box->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOptions(0)"));
+    box->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdOptions(1)"));
+    box->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("cmdOptions(2)"));
+    connect(box, &QDialogButtonBox::accepted, this, &frmOptions::accept);
+    connect(box, &QDialogButtonBox::rejected, this, &frmOptions::reject);
+    connect(box, &QDialogButtonBox::helpRequested, this, &frmOptions::sendHelpKey);
+
+    auto *v = new QVBoxLayout(this);
+    v->addWidget(m_tabs);
+    v->addWidget(box);
+
+    m_model.load();
+    showModel();
+}
+
+void frmOptions::showTab(OptionsTab tab)
+{
+    m_tabs->setCurrentIndex(int(tab));
+}
+
+void frmOptions::showModel()
+{
+    for (int i = 0; i < kOptionCheckCount; ++i) {
+        if (QCheckBox *box = m_checks[size_t(i)])
+            box->setChecked(m_model.check(OptionCheck(i)));
+    }
+    m_checks[size_t(OptionCheck::ForceDefaultExt)]->setVisible(m_model.forceExtensionVisible());
+    m_colourFrame->setEnabled(m_model.check(OptionCheck::ColorHTML));
+    m_aliases->setVisible(m_model.check(OptionCheck::UseAliases));
+
+    m_anchor->setCurrentText(m_model.anchor);
+    m_bigLetter->setCurrentText(m_model.bigLetterSize);
+    m_fontName->setCurrentText(m_model.fontName);
+    m_fontSize->setCurrentText(m_model.fontSize);
+    m_docExt->setCurrentText(m_model.documentExtension);
+    if (m_pubExt->findText(m_model.publishExtension, Qt::MatchFixedString) < 0)
+        m_pubExt->addItem(m_model.publishExtension);
+    m_pubExt->setCurrentIndex(m_pubExt->findText(m_model.publishExtension, Qt::MatchFixedString));
+    m_autoSave->setText(m_model.autoSaveMinutes);
+
+    const QString seconds = m_model.scoutSeconds;
+    m_scoutCheck->setChecked(m_model.scoutEnabled());
+    m_scout->setEnabled(m_model.scoutEnabled());
+    m_scout->setText(seconds);
+    m_model.scoutSeconds = seconds;
+
+    for (int i = 0; i < kLocationCount; ++i)
+        m_files[size_t(i)]->setText(m_model.locations[size_t(i)]);
+    for (int i = 0; i < 2; ++i)
+        m_dictionaries[size_t(i)]->setText(m_model.dictionaries[size_t(i)]);
+    for (int i = 0; i < kColourCount; ++i)
+        showColour(i);
+    showBrowsers();
+}
+
+void frmOptions::showColour(int index)
+{
+    const int v = m_model.colours[size_t(index)];
+    const QColor c = v < 0 ? bufferDefaultColour(colourBindings()[size_t(index)].slot) : storedColour(v);
+    QPixmap swatch(32, 16);
+    swatch.fill(c);
+    QPainter(&swatch).drawRect(0, 0, 31, 15);
+    m_colours[size_t(index)]->setIcon(swatch);
+    m_colours[size_t(index)]->setToolTip(c.name());
+}
+
+void frmOptions::pickColour(int index)
+{
+    const int v = m_model.colours[size_t(index)];
+    const QColor start = v < 0 ? bufferDefaultColour(colourBindings()[size_t(index)].slot) : storedColour(v);
+    const QColor chosen = QColorDialog::getColor(start, this, QString(colourBindings()[size_t(index)].caption));
+    if (!chosen.isValid())
+        return;
+    m_model.colours[size_t(index)] = toStored(chosen);
+    showColour(index);
+}
+
+void frmOptions::showBrowsers()
+{
+    m_browsers->clear();
+    m_browsers->addItems(m_model.browsers());
+    m_browsers->setCurrentRow(-1);
+    m_deleteBrowser->setEnabled(false);
+}
+
+void frmOptions::accept()
+{
+    m_model.commit();
+    QDialog::accept();
+}
+
+void frmOptions::enterMovesOn(QWidget *widget)
+{
+    widget->installEventFilter(this);
+    if (auto *c = qobject_cast<QComboBox *>(widget); c && c->lineEdit())
+        c->lineEdit()->installEventFilter(this);
+}
+
+bool frmOptions::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            focusNextChild();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmOptions::sendHelpKey()
+{
+    QWidget *target = focusWidget() ? focusWidget() : this;
+    QApplication::postEvent(target, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
+    QApplication::postEvent(target, new QKeyEvent(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier));
+}
+
+void ShowOptions(frmMain &main, OptionsTab tab)
+{
+    // Parts of the editor that only know the start-up steps serve the dialog too.
+    OptionsHooks &hooks = optionsHooks();
+    StartupSteps &steps = startupSteps();
+    if (!hooks.tagTreeSettings && steps.setupTagTree)
+        hooks.tagTreeSettings = [&main] { startupSteps().setupTagTree(main); };
+    if (!hooks.loadBrowserMenu && steps.loadBrowserMenu)
+        hooks.loadBrowserMenu = [&main] { startupSteps().loadBrowserMenu(main); };
+    if (!hooks.findBrowsers && steps.findBrowsers)
+        hooks.findBrowsers = [&main] { startupSteps().findBrowsers(main); };
+
+    frmOptions dialog(&main);
+    dialog.showTab(tab);
+    dialog.adjustSize();
+    dialog.move(main.geometry().center() - dialog.rect().center());
+    if (dialog.exec() == QDialog::Accepted) {
+        if (documents::Document *doc = Workspace::CurrentDocument())
+            doc->txtDoc().SetFocus();
+    }
+}
+
+} // namespace qly::core::ui
