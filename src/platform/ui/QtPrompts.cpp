@@ -12,14 +12,18 @@ QStringList toQtFilters(const QString &filter)
     QStringList out;
     const QStringList parts = filter.split(u'|');
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        QString masks = parts[i + 1];
-        masks.replace(u';', u' ');
+        QStringList masks = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+        // "*.*" meant every file where it was written; here names need no point.
+        for (QString &mask : masks) {
+            if (mask.trimmed() == QLatin1String("*.*"))
+                mask = QStringLiteral("*");
+        }
         QString label = parts[i];
         // A label that already shows its masks keeps them once.
         const qsizetype paren = label.indexOf(u'(');
         if (paren >= 0)
             label = label.left(paren).trimmed();
-        out << label + QStringLiteral(" (") + masks + u')';
+        out << label + QStringLiteral(" (") + masks.join(u' ') + u')';
     }
     return out;
 }
