@@ -52,6 +52,7 @@ void loadMainWindow(frmMain &w)
     w.show();
     gMainReady = true;
     step(startupSteps().autoSaveTick, w);
+    w.DrawMainScreen();
     step(startupSteps().drawMainScreen, w);
     step(startupSteps().loadPlugIns, w);
 }

@@ -9,7 +9,14 @@
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "core/ui/Commands.h"
+#include "core/Settings.h"
+#include "core/ui/ResourceManager.h"
 #include "core/ui/StatusPanels.h"
+#include "core/ui/Toolbars.h"
+#include "core/ui/frmCustomize.h"
+#include "documents/Coloring.h"
+#include "documents/DocumentList.h"
+#include "platform/HTMLEdit.h"
 #include "core/ui/Twips.h"
 #include "documents/ui/DocumentWindow.h"
 #include "documents/ui/ScintillaEdit.h"
@@ -19,7 +26,9 @@
 #include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
+#include <QTabWidget>
 #include <QStatusBar>
 
 namespace qly::core::ui {
@@ -38,7 +47,28 @@ frmMain::frmMain(QWidget *parent)
     m_panels = new StatusPanels(statusBar());
     connect(m_mdi, &QMdiArea::subWindowActivated, this, &frmMain::onSubWindowActivated);
     registerCommands(*m_commands, *this);
+    m_toolbars = new Toolbars(*this, *m_commands);
+    m_picDocs = new ResourceManager(this);
+    addDockWidget(Qt::LeftDockWidgetArea, m_picDocs);
+    m_picDocs->InitializeFileList();
+    connect(m_picDocs, &ResourceManager::fileActivated, this, [](const QString &path) {
+        documents::OpenDocumentFile(path);
+    });
+    QAction *viewResMan = m_commands->action(QStringLiteral("ViewResMan"));
+    viewResMan->setCheckable(true);
+    m_commands->bind(QStringLiteral("ViewResMan"), [this, viewResMan] {
+        m_picDocs->setVisible(viewResMan->isChecked());
+        WriteSetting(QStringLiteral("Display"), QStringLiteral("Link Checker"), YesNo(viewResMan->isChecked()));
+    });
+    connect(m_picDocs, &QDockWidget::visibilityChanged, this, [this, viewResMan] {
+        if (isVisible())
+            viewResMan->setChecked(m_picDocs->isVisibleTo(this));
+    });
+    m_commands->bind(QStringLiteral("ToolsCustomizeTB"), [this] { showCustomize(); });
+    connect(m_panels, &StatusPanels::panelClicked, this, &frmMain::sbStatus_PanelClick);
     buildMenus();
+    buildPopupMenu();
+    shutdownHooks().storeWindowState = [this] { StoreDisplayState(); };
 }
 
 frmMain::~frmMain()
@@ -98,6 +128,7 @@ documents::Document *frmMain::makeDocumentWindow(bool explorerInternal)
     sub->resize(std::max(400, area.width() * 3 / 4), std::max(300, area.height() * 3 / 4));
     sub->show();
     m_mdi->setActiveSubWindow(sub);
+    connect(doc, &DocumentWindow::popupRequested, this, [this](const QPoint &at) { m_mnuPopupHd->popup(at); });
     return doc;
 }
 
@@ -149,8 +180,82 @@ QString frmMain::toolbarFile() const
 void frmMain::LoadToolbars()
 {
     QByteArray layout;
-    if (QFile::exists(toolbarFile()) && readWholeFile(toolbarFile(), layout).ok())
-        restoreState(layout);
+    if (QFile::exists(toolbarFile()) && readWholeFile(toolbarFile(), layout).ok()) {
+        if (!m_toolbars->loadLayout(layout))
+            StepFailed(QStringLiteral("The toolbar layout in ") + toolbarFile() + QStringLiteral(" was not read"));
+    }
+    m_toolbars->updateViewChecks();
+}
+
+void frmMain::DrawMainScreen()
+{
+    const int width = ReadSetting(QStringLiteral("Display"), QStringLiteral("Link Checker Width")).toInt();
+    if (width > 200)
+        resizeDocks({m_picDocs}, {fromTwips(width, this)}, Qt::Horizontal);
+    const bool shown = ReadSetting(QStringLiteral("Display"), QStringLiteral("Link Checker"))
+                           .compare(QLatin1String("Yes"), Qt::CaseInsensitive) == 0;
+    m_picDocs->setVisible(shown);
+    m_commands->action(QStringLiteral("ViewResMan"))->setChecked(shown);
+}
+
+void frmMain::StoreDisplayState()
+{
+    if (QAction *chars = m_commands->action(QStringLiteral("ViewSpecialCharacters")))
+        WriteSetting(QStringLiteral("Display"), QStringLiteral("Chars List"), YesNo(chars->isChecked()));
+    WriteSetting(QStringLiteral("Display"), QStringLiteral("Link Checker Width"),
+                 QString::number(toTwips(m_picDocs->width(), this)));
+    WriteSetting(QStringLiteral("Display"), QStringLiteral("Link Checker Height"),
+                 QString::number(toTwips(m_picDocs->tabs()->height(), this)));
+}
+
+void frmMain::sbStatus_PanelClick(const QString &key)
+{
+    const bool syntax = key == QLatin1String("SyntaxColor");
+    if (syntax || key == QLatin1String("TagColor")) {
+        m_panels->showColoringMode(syntax);
+        WriteSetting(QStringLiteral("Editing"), QStringLiteral("Quick Color"), syntax ? QStringLiteral("1") : QStringLiteral("0"));
+        WriteSetting(QStringLiteral("Editing"), QStringLiteral("Color HTML"), QStringLiteral("Yes"));
+        gColorHTML = true;
+        documents::ChangeColoring(syntax ? platform::ColorTagSyntax : platform::ColorEntireTags);
+        documents::ColorAll();
+    } else if (key == QLatin1String("DateTime") && insertDateTime) {
+        insertDateTime();
+    }
+}
+
+void frmMain::buildPopupMenu()
+{
+    m_mnuPopupHd = new QMenu(QStringLiteral("Quillery"), this);
+    m_mnuPopupHd->setObjectName(QStringLiteral("mnuPopupHd"));
+    QMenu *tags = m_mnuPopupHd->addMenu(QStringLiteral("Tags"));
+    tags->setObjectName(QStringLiteral("mnuPopupTags"));
+    QMenu *text = m_mnuPopupHd->addMenu(QStringLiteral("Text"));
+    text->setObjectName(QStringLiteral("mnuPopupText"));
+    for (const char *name : {"FormatBold", "FormatItalic", "FormatUnderline", "tlbHead1", "tlbHead2", "tlbHead3",
+                             "tlbParagraph", "tlbBreak", "InsertURL", "InsertImage", "EditSelectTag"})
+        tags->addAction(m_commands->action(QString::fromLatin1(name)));
+    for (const char *name : {"EditUndo", "EditRedo", "EditCut", "EditCopy", "EditPaste", "EditSelectAll",
+                             "EditTranslate", "EditFind"})
+        text->addAction(m_commands->action(QString::fromLatin1(name)));
+}
+
+QMenu *frmMain::createPopupMenu()
+{
+    QMenu *menu = QMainWindow::createPopupMenu();
+    if (!menu)
+        menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("mnuBar"));
+    menu->addSeparator();
+    QAction *customize = menu->addAction(QStringLiteral("Customize &Menu"));
+    customize->setObjectName(QStringLiteral("mnuPopupCust"));
+    connect(customize, &QAction::triggered, this, &frmMain::showCustomize);
+    return menu;
+}
+
+void frmMain::showCustomize()
+{
+    frmCustomize dialog(*m_toolbars, this);
+    dialog.exec();
 }
 
 void frmMain::SaveMainWindowState()
@@ -158,7 +263,7 @@ void frmMain::SaveMainWindowState()
     const bool normal = !(isMaximized() || isMinimized() || isFullScreen());
     WriteMainGeometry(normal, QRect(toTwips(pos().x(), this), toTwips(pos().y(), this),
                                     toTwips(width(), this), toTwips(height(), this)));
-    const IoResult saved = writeFileAtomically(toolbarFile(), saveState());
+    const IoResult saved = writeFileAtomically(toolbarFile(), m_toolbars->saveLayout());
     if (!saved.ok())
         StepFailed(QStringLiteral("Could not save the toolbar layout: ") + saved.message);
 }

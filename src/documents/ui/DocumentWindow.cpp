@@ -49,6 +49,10 @@ DocumentWindow::DocumentWindow(QWidget *parent)
     buildPreviewPage(m_previewPage);
     m_tabDoc->addTab(m_previewPage, tr("Preview"));
 
+    m_edit->view()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_edit->view(), &QWidget::customContextMenuRequested, this, [this](const QPoint &pos) {
+        emit popupRequested(m_edit->view()->mapToGlobal(pos));
+    });
     m_edit->view()->installEventFilter(this);
     m_edit->view()->viewport()->installEventFilter(this);
     connect(m_edit, &ScintillaEdit::caretMoved, this, &DocumentWindow::updatePosition);

@@ -54,6 +54,8 @@ public:
 
 signals:
     void positionChanged(const QString &text);
+    // The right button alone, in the text: the main window's popup menu.
+    void popupRequested(const QPoint &globalPos);
     void activated();
 
 protected:
