@@ -6,6 +6,7 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/FileMenu.h"
+#include "markup/FormatMenu.h"
 #include "platform/HTMLEdit.h"
 
 #include <QKeySequence>
@@ -71,6 +72,27 @@ void registerCommands(CommandTable &t, frmMain &w)
     t.add({QStringLiteral("EditSelectTag"), QStringLiteral("Select T&his Tag"),
            onBuffer([](HTMLEdit &e) { e.SelectTag(); })});
 
+    // Format
+    t.add({QStringLiteral("FormatLeft"), QStringLiteral("&Left"), [] { markup::FormatLeft_Click(); }});
+    t.add({QStringLiteral("FormatCenter"), QStringLiteral("&Center"), [] { markup::FormatCenter_Click(); }});
+    t.add({QStringLiteral("FormatRight"), QStringLiteral("&Right"), [] { markup::FormatRight_Click(); }});
+    t.add({QStringLiteral("FormatBigger"), QStringLiteral("Bi&gger"), [] { markup::FormatBigger_Click(); }});
+    t.add({QStringLiteral("FormatSmaller"), QStringLiteral("S&maller"), [] { markup::FormatSmaller_Click(); }});
+    t.add({QStringLiteral("FormatBold"), QStringLiteral("&Bold"), [] { markup::FormatBold_Click(); }, K(K::Bold)});
+    t.add({QStringLiteral("FormatItalic"), QStringLiteral("&Italic"), [] { markup::FormatItalic_Click(); },
+           K(K::Italic)});
+    t.add({QStringLiteral("FormatUnderline"), QStringLiteral("&Underline"), [] { markup::FormatUnderline_Click(); },
+           K(K::Underline)});
+    t.add({QStringLiteral("FormatDropCaps"), QStringLiteral("&Drop Caps"), [] { markup::FormatDropCaps_Click(); }});
+    for (int level = 1; level <= 6; ++level)
+        t.add({QStringLiteral("tlbHead%1").arg(level), QStringLiteral("Heading &%1").arg(level),
+               [level] { markup::tlbHead_Click(level); }});
+    t.add({QStringLiteral("tlbBreak"), QStringLiteral("Line Brea&k"), [] { markup::tlbBreak_Click(); }});
+    t.add({QStringLiteral("tlbParagraph"), QStringLiteral("&Paragraph"), [] { markup::tlbParagraph_Click(); }});
+    t.add({QStringLiteral("tlbNBSP"), QStringLiteral("&Non-Breaking Space"), [] { markup::tlbNBSP_Click(); }});
+    t.add({QStringLiteral("tlbIndent"), QStringLiteral("Indent"), [] { markup::tlbIndent_Click(); }});
+    t.add({QStringLiteral("tlbOutdent"), QStringLiteral("Outdent"), [] { markup::tlbOutdent_Click(); }});
+
     // Tools
     t.add({QStringLiteral("ToolsOptions"), QStringLiteral("&Options..."), {}});
 
@@ -97,6 +119,14 @@ const std::vector<MenuLayout> &menuLayout()
          {QStringLiteral("EditUndo"), QStringLiteral("EditRedo"), QString(), QStringLiteral("EditCut"),
           QStringLiteral("EditCopy"), QStringLiteral("EditPaste"), QString(), QStringLiteral("EditSelectAll"),
           QStringLiteral("EditSelectTag")}},
+        {QStringLiteral("Format"), QStringLiteral("F&ormat"),
+         {QStringLiteral("FormatLeft"), QStringLiteral("FormatCenter"), QStringLiteral("FormatRight"), QString(),
+          QStringLiteral("FormatBigger"), QStringLiteral("FormatSmaller"), QString(), QStringLiteral("FormatBold"),
+          QStringLiteral("FormatItalic"), QStringLiteral("FormatUnderline"), QStringLiteral("FormatDropCaps"), QString(),
+          QStringLiteral("tlbHead1"), QStringLiteral("tlbHead2"), QStringLiteral("tlbHead3"), QStringLiteral("tlbHead4"),
+          QStringLiteral("tlbHead5"), QStringLiteral("tlbHead6"), QString(), QStringLiteral("tlbBreak"),
+          QStringLiteral("tlbParagraph"), QStringLiteral("tlbNBSP"), QStringLiteral("tlbIndent"),
+          QStringLiteral("tlbOutdent")}},
         {QStringLiteral("Tools"), QStringLiteral("&Tools"), {QStringLiteral("ToolsOptions")}},
         {QStringLiteral("Window"), QStringLiteral("&Window"),
          {QStringLiteral("mnuWindow0"), QStringLiteral("mnuWindow1"), QStringLiteral("mnuWindow2"), QString(),
