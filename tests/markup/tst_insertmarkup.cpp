@@ -1,4 +1,5 @@
 #include "core/Settings.h"
+#include "markup/FormatMenu.h"
 #include "markup/Selection.h"
 #include "markup/TagPrimitives.h"
 #include "support/FakeWorkspace.h"
@@ -6,8 +7,13 @@
 
 #include <QtTest>
 
+#include <functional>
+
 using namespace qly;
 using namespace qly::markup;
+
+using Command = std::function<void()>;
+Q_DECLARE_METATYPE(Command)
 
 namespace {
 
@@ -18,17 +24,23 @@ public:
     Kind kind() const override { return m_kind; }
     QString text() const override { return m_text; }
     void setText(const QString &text) override { m_text = text; }
-    QString selectedText() const override { return selected; }
-    QString selected;
+    QString selectedText() const override { return QString(); }
 
 private:
     Kind m_kind;
     QString m_text = QStringLiteral("old");
 };
 
-void setEditing(const char *key, bool on)
+// "Section/Key=Value"
+void applySetting(const QString &setting)
 {
-    core::WriteSetting(QStringLiteral("Editing"), QString::fromLatin1(key), core::YesNo(on));
+    const QString key = setting.section(u'=', 0, 0);
+    core::WriteSetting(key.section(u'/', 0, 0), key.section(u'/', 1), setting.section(u'=', 1));
+}
+
+Command insert(const char *startText, const char *endText)
+{
+    return [=] { InsertMarkup(QString::fromUtf8(startText), QString::fromUtf8(endText)); };
 }
 
 } // namespace
@@ -37,147 +49,104 @@ class tst_InsertMarkup : public QObject
 {
     Q_OBJECT
 private slots:
-    void insert_data();
-    void insert();
-    void oneUndoStepAndDirty();
-    void lowerCaseAndColour();
-    void textHolders();
-    void noDocument();
-    void selection();
+    void edit_data();
+    void edit();
+    void targetsUndoAndSettings();
     void between();
-    void tagItemAndDate();
+    void noDocument();
 };
 
-void tst_InsertMarkup::insert_data()
+void tst_InsertMarkup::edit_data()
 {
+    QTest::addColumn<Command>("run");
+    QTest::addColumn<QString>("setting");
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("selStart");
     QTest::addColumn<int>("selLength");
-    QTest::addColumn<QString>("startText");
-    QTest::addColumn<QString>("endText");
-    QTest::addColumn<bool>("skip");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<int>("caret");
     QTest::addColumn<int>("length");
-    QTest::newRow("empty pair: caret between") << "ab" << 1 << 0 << "<B>" << "</B>" << false << "a<B></B>b" << 4 << 0;
-    QTest::newRow("selection stays selected") << "a word b" << 2 << 4 << "<B>word" << "</B>" << true
-                                              << "a <B>word</B> b" << 2 << 11;
-    QTest::newRow("single text: caret behind") << "ab" << 1 << 0 << "<BR>" << "" << false << "a<BR>b" << 5 << 0;
-    QTest::newRow("repeat: text kept, selection shrinks") << "<H1>word</H1>" << 0 << 13 << "<H1><H1>word</H1>"
-                                                          << "</H1>" << false << "<H1>word</H1>" << 0 << 4;
-    QTest::newRow("repeat test skipped") << "<H1>word</H1>" << 0 << 13 << "<H1><H1>word</H1>" << "</H1>" << true
-                                         << "<H1><H1>word</H1></H1>" << 0 << 22;
-    QTest::newRow("repeated tag in a block drops it") << "x" << 1 << 0 << "<OPTION>a<OPTION>b</OPTION>" << ""
-                                                      << false << "x" << 1 << 0;
-    QTest::newRow("line break spoils the repeat test") << "x" << 1 << 0 << "<LI>a<LI>b</LI>\r\n" << "" << false
+    const Command bold = FormatBold_Click, head1 = [] { tlbHead_Click(1); }, drop = FormatDropCaps_Click;
+    const Command br = tlbBreak_Click, para = tlbParagraph_Click;
+    const QString container = QStringLiteral("General/P is a Container=YES");
+    QTest::newRow("repeat: text kept, selection shrinks") << insert("<H1><H1>word</H1>", "</H1>") << ""
+                                                          << "<H1>word</H1>" << 0 << 13 << "<H1>word</H1>" << 0 << 4;
+    QTest::newRow("block repeating a tag is dropped") << insert("<LI>a<LI>b</LI>", "") << "" << "xy" << 1 << 0 << "xy"
+                                                      << 2 << 0;
+    QTest::newRow("line break spoils the repeat test") << insert("<LI>a<LI>b</LI>\r\n", "") << "" << "x" << 1 << 0
                                                        << "x<LI>a<LI>b</LI>\r\n" << 18 << 0;
-    QTest::newRow("different tags are no repeat") << "" << 0 << 0 << "<B><I>x</I>" << "</B>" << false
-                                                  << "<B><I>x</I></B>" << 11 << 0;
+    QTest::newRow("tags lower-cased, values kept") << insert("<A HREF=\"X\">", "</A>") << "Editing/Lower Case Tags=Yes"
+                                                   << "" << 0 << 0 << "<a href=\"X\"></a>" << 12 << 0;
+    QTest::newRow("bold, nothing selected") << bold << "" << "ab" << 1 << 0 << "a<STRONG></STRONG>b" << 9 << 0;
+    QTest::newRow("bold, word selected") << bold << "" << "a word" << 2 << 4 << "a <STRONG>word</STRONG>" << 2 << 21;
+    QTest::newRow("bold, B and I setting") << bold << "General/Strong and Emphasis=NO" << "w" << 0 << 1 << "<B>w</B>"
+                                           << 0 << 8;
+    QTest::newRow("heading on a whole line") << head1 << "" << "line\r\nnext" << 0 << 6 << "<H1>line</H1>next" << 0
+                                             << 13;
+    QTest::newRow("break, lines") << br << "" << "a\r\nb\r\nc" << 0 << 6 << "a<BR>\r\nbc" << 0 << 8;
+    QTest::newRow("paragraph container") << para << container << "a\r\nb\r\nc" << 0 << 6
+                                         << "<P>a</P>\r\n<P>b</P>\r\nc" << 0 << 20;
+    QTest::newRow("paragraph single") << para << "" << "a\r\nb" << 0 << 4 << "a<P>\r\nb<P>\r\n" << 0 << 12;
+    QTest::newRow("drop caps in the first word") << drop << "" << "Hello" << 3 << 0 << "<FONT SIZE=+2>H</FONT>ello"
+                                                 << 3 << 0;
+    QTest::newRow("drop caps after a line end") << drop << "General/Big First Letter Size=+4" << "a\r\nbc" << 5 << 0
+                                                << "a\r\n<FONT SIZE=+4>b</FONT>c" << 5 << 0;
 }
 
-void tst_InsertMarkup::insert()
+void tst_InsertMarkup::edit()
 {
+    QFETCH(Command, run);
+    QFETCH(QString, setting);
     QFETCH(QString, text);
     QFETCH(int, selStart);
     QFETCH(int, selLength);
-    QFETCH(QString, startText);
-    QFETCH(QString, endText);
-    QFETCH(bool, skip);
     test::TestEnv env;
     test::FakeWorkspace ws;
+    if (!setting.isEmpty())
+        applySetting(setting);
     test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), text);
     doc->edit.SetSel(selStart, selStart + selLength);
-    InsertMarkup(startText, endText, skip);
+    run();
     QTEST(doc->edit.Text(), "expected");
     QTEST(doc->edit.SelStart(), "caret");
     QTEST(doc->edit.SelLength(), "length");
 }
 
-void tst_InsertMarkup::oneUndoStepAndDirty()
+void tst_InsertMarkup::targetsUndoAndSettings()
 {
     test::TestEnv env;
     test::FakeWorkspace ws;
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), QStringLiteral("abc"));
-    test::FakeDocument *other = ws.addDocument(QStringLiteral("b"), QStringLiteral("xyz"));
-    other->edit.setDirty(false);
-    other->edit.SetSel(1, 2);
+    test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), QStringLiteral("xyz"));
+    doc->edit.setDirty(false);
+    doc->edit.SetSel(1, 2);
     InsertMarkup(QStringLiteral("<B>y"), QStringLiteral("</B>"), true);
-    QVERIFY(other->edit.Dirty());
-    other->edit.Undo();
-    QCOMPARE(other->edit.Text(), QStringLiteral("xyz"));
-
-    // A given buffer does not mark the current document changed.
-    other->edit.setDirty(false);
-    InsertMarkup(QStringLiteral("<P>"), QString(), false, doc->edit);
-    QVERIFY(!other->edit.Dirty());
-    QCOMPARE(doc->edit.Text(), QStringLiteral("<P>abc"));
-}
-
-void tst_InsertMarkup::lowerCaseAndColour()
-{
-    test::TestEnv env;
-    test::FakeWorkspace ws;
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), QString());
-    InsertMarkup(QStringLiteral("<IMG SRC=\"A.GIF\">"), QString());
+    QVERIFY(doc->edit.Dirty());
     QCOMPARE(doc->edit.colorPasses(), 0);
-    setEditing("Lower Case Tags", true);
-    setEditing("Color HTML", true);
-    InsertMarkup(QStringLiteral("<A HREF=\"X.HTM\">Go"), QStringLiteral("</A>"));
-    QCOMPARE(doc->edit.Text(), QStringLiteral("<IMG SRC=\"A.GIF\"><a href=\"X.HTM\">Go</a>"));
-    QCOMPARE(doc->edit.colorPasses(), 1);
-    // Text without "<" is left alone; the caret stood between the pair.
-    InsertMarkup(QStringLiteral("BIG"), QString());
-    QVERIFY(doc->edit.Text().endsWith(QStringLiteral("GoBIG</a>")));
-}
+    doc->edit.Undo();
+    QCOMPARE(doc->edit.Text(), QStringLiteral("xyz"));
 
-void tst_InsertMarkup::textHolders()
-{
-    test::TestEnv env;
-    test::FakeWorkspace ws;
-    Box box(TextHolder::Kind::TextBox);
-    Box combo(TextHolder::Kind::ComboBox);
-    InsertMarkup(QStringLiteral("<B>"), QStringLiteral("</B>"), true, box);
-    QCOMPARE(box.text(), QStringLiteral("old"));  // no document: inert even with a target
-
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), QStringLiteral("t"));
+    // Boxes: a text box takes the start text only, a combo box both; the document stays untouched.
+    applySetting(QStringLiteral("Editing/Color HTML=yes"));
+    Box box(TextHolder::Kind::TextBox), combo(TextHolder::Kind::ComboBox);
     doc->edit.setDirty(false);
     InsertMarkup(QStringLiteral("<B>"), QStringLiteral("</B>"), false, box);
     InsertMarkup(QStringLiteral("<B>"), QStringLiteral("</B>"), false, combo);
-    QCOMPARE(box.text(), QStringLiteral("<B>"));
-    QCOMPARE(combo.text(), QStringLiteral("<B></B>"));
-    QCOMPARE(doc->edit.Text(), QStringLiteral("t"));
+    QCOMPARE(box.text() + combo.text(), QStringLiteral("<B><B></B>"));
     QVERIFY(!doc->edit.Dirty());
 
-    box.selected = QStringLiteral("sel\r\n");
-    QCOMPARE(GetSelection(box), QStringLiteral("sel\r\n"));
-    QString out = QStringLiteral("x");
-    QVERIFY(!HasSelection(Target(), out));
-    QCOMPARE(out, QString());
+    doc->edit.SetSel(0, 0);
+    InsertTagItem(QStringLiteral("TABLE\tA table\tyes"));
+    QCOMPARE(doc->edit.Text(), QStringLiteral("<TABLE></TABLE>xyz"));
+    QCOMPARE(doc->edit.colorPasses(), 1);
+
+    InsertDate(4);
+    QVERIFY(doc->edit.Text().contains(QString::number(QDate::currentDate().year())));
+
+    // Exactly one trailing CR LF leaves the selection.
+    doc->edit.setText(QStringLiteral("a\r\n\r\nb"));
+    doc->edit.SetSel(0, 5);
+    QCOMPARE(GetSelection(doc->edit), QStringLiteral("a\r\n"));
     QCOMPARE(GetSelection(Target()), QString());
-}
-
-void tst_InsertMarkup::noDocument()
-{
-    test::TestEnv env;
-    test::FakeWorkspace ws;
-    InsertMarkup(QStringLiteral("<B>"), QStringLiteral("</B>"));
-    WrapSelection(QStringLiteral("<B>"), QStringLiteral("</B>"));
-    InsertTagItem(QStringLiteral("B\tbold\tY"));
-    InsertDate(1);
-    QCOMPARE(ws.count(), 0);
-}
-
-void tst_InsertMarkup::selection()
-{
-    documents::MemoryEdit edit;
-    edit.setText(QStringLiteral("a\r\n\r\nb"));
-    edit.SetSel(0, 5);
-    QCOMPARE(GetSelection(edit), QStringLiteral("a\r\n"));  // exactly one CR LF goes
-    QString text;
-    QVERIFY(HasSelection(edit, text));
-    QCOMPARE(text, QStringLiteral("a\r\n\r\n"));
-    edit.SetSel(6, 6);
-    QVERIFY(!HasSelection(edit, text));
 }
 
 void tst_InsertMarkup::between()
@@ -190,44 +159,28 @@ void tst_InsertMarkup::between()
 
     // No hit: the old selection stays, and ReplaceBetween then overwrites it.
     edit.SetSel(0, 6);
-    QCOMPARE(SelectBetween(edit, QStringLiteral("<META"), QStringLiteral(">")), 6);
     QString meta = QStringLiteral("<META NAME=\"A\">");
-    setEditing("Lower Case Tags", true);
+    applySetting(QStringLiteral("Editing/Lower Case Tags=Yes"));
     QVERIFY(ReplaceBetween(edit, QStringLiteral("<META"), QStringLiteral(">"), meta));
     QCOMPARE(meta, QStringLiteral("<meta name=\"A\">"));
-    QCOMPARE(edit.Text(), QStringLiteral("<meta name=\"A\"><title>Old</TITLE></HEAD>"));
-
     QString title = QStringLiteral("<TITLE>New</TITLE>");
     QVERIFY(ReplaceBetween(edit, QStringLiteral("<title>"), QStringLiteral("</title>"), title, true));
     QCOMPARE(edit.Text(), QStringLiteral("<meta name=\"A\"><TITLE>New</TITLE></HEAD>"));
-
     edit.SetSel(0, 0);
     QVERIFY(!ReplaceBetween(edit, QStringLiteral("<BODY"), QStringLiteral(">"), title));
-    // An end text found only before the start text is no hit.
-    QCOMPARE(SelectBetween(edit, QStringLiteral("</HEAD>"), QStringLiteral("<meta")), 0);
 }
 
-void tst_InsertMarkup::tagItemAndDate()
+void tst_InsertMarkup::noDocument()
 {
     test::TestEnv env;
     test::FakeWorkspace ws;
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), QString());
-    InsertTagItem(QStringLiteral("TABLE\tA table\tyes"));
-    QCOMPARE(doc->edit.Text(), QStringLiteral("<TABLE></TABLE>"));
-    QCOMPARE(doc->edit.SelStart(), 7);
-    InsertTagItem(QStringLiteral("BR\tA break\tNo"));
-    QCOMPARE(doc->edit.Text(), QStringLiteral("<TABLE><BR></TABLE>"));
-
-    doc->edit.setText(QString());
-    InsertDate(5);
-    QCOMPARE(doc->edit.Text(), QString());
-    InsertDate(4);
-    const QString year = QString::number(QDate::currentDate().year());
-    QVERIFY2(doc->edit.Text().contains(year), qPrintable(doc->edit.Text()));
-    const QDateTime moment(QDate(2001, 2, 3), QTime(4, 5, 6));
-    QVERIFY(DateText(2, moment).startsWith(DateText(1, moment) + u' '));
-    QVERIFY(DateText(4, moment).startsWith(DateText(3, moment) + u' '));
-    QVERIFY(!DateText(3, moment).contains(QStringLiteral("04:05:06")));
+    Box box(TextHolder::Kind::TextBox);
+    InsertMarkup(QStringLiteral("<B>"), QString(), false, box);
+    QCOMPARE(box.text(), QStringLiteral("old"));
+    for (const Command &run : {Command(FormatBold_Click), Command(FormatDropCaps_Click), Command(tlbBreak_Click),
+                               Command(tlbParagraph_Click), Command([] { InsertTagItem(QStringLiteral("B")); })})
+        run();
+    QCOMPARE(ws.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_InsertMarkup)
