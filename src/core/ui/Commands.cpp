@@ -8,6 +8,8 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/FileMenu.h"
+#include "markup/FormatMenu.h"
+#include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
 
 #include <QMdiArea>
@@ -73,6 +75,33 @@ void registerCommands(CommandTable &t, frmMain &w)
         e.setSelLength(e.GetTextLength());
     }));
     t.bind(N("EditSelectTag"), onBuffer([](HTMLEdit &e) { e.SelectTag(); }));
+
+    // Format
+    t.bind(N("FormatLeft"), [] { markup::FormatLeft_Click(); });
+    t.bind(N("FormatCenter"), [] { markup::FormatCenter_Click(); });
+    t.bind(N("FormatRight"), [] { markup::FormatRight_Click(); });
+    t.bind(N("FormatBigger"), [] { markup::FormatBigger_Click(); });
+    t.bind(N("FormatSmaller"), [] { markup::FormatSmaller_Click(); });
+    t.bind(N("FormatBold"), [] { markup::FormatBold_Click(); });
+    t.bind(N("FormatItalic"), [] { markup::FormatItalic_Click(); });
+    t.bind(N("FormatUnderline"), [] { markup::FormatUnderline_Click(); });
+    t.bind(N("FormatDropCaps"), [] { markup::FormatDropCaps_Click(); });
+    for (int level = 1; level <= 6; ++level)
+        t.bind(QStringLiteral("tlbHead%1").arg(level), [level] { markup::tlbHead_Click(level); });
+    t.bind(N("tlbBreak"), [] { markup::tlbBreak_Click(); });
+    t.bind(N("tlbParagraph"), [] { markup::tlbParagraph_Click(); });
+    t.bind(N("tlbNBSP"), [] { markup::tlbNBSP_Click(); });
+    t.bind(N("tlbIndent"), [] { markup::tlbIndent_Click(); });
+    t.bind(N("tlbOutdent"), [] { markup::tlbOutdent_Click(); });
+
+    // Insert
+    // Short date, long date, long date and time.
+    const int dateKinds[3] = {1, 3, 4};
+    for (int entry = 0; entry <= 2; ++entry) {
+        const int kind = dateKinds[entry];
+        t.bind(QStringLiteral("InsertDate%1").arg(entry), [kind] { markup::InsertDate(kind); });
+    }
+    w.insertDateTime = [] { markup::InsertDate(4); };
 
     // Tools
     t.bind(N("ToolsOptions"), [&w] { ShowOptions(w); });
