@@ -24,7 +24,10 @@ IoResult readWholeFile(const QString &path, QByteArray &bytes)
 IoResult writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
     const QFileInfo info(path);
-    if (info.exists() && (!info.isFile() || !info.isWritable()))
+    // A file with no write permission bits is read-only for every user, the
+    // superuser included, as a read-only file is on other systems.
+    constexpr QFile::Permissions anyWrite = QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+    if (info.exists() && (!info.isFile() || !info.isWritable() || !(info.permissions() & anyWrite)))
         return {ErrFileAccess, QStringLiteral("Permission denied")};
 
     QSaveFile file(path);

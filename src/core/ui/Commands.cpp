@@ -6,8 +6,11 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/FileMenu.h"
+#include "documents/RecentFiles.h"
+#include "documents/ui/FileLifecycle.h"
 #include "platform/HTMLEdit.h"
 
+#include <QAction>
 #include <QKeySequence>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -44,7 +47,7 @@ void registerCommands(CommandTable &t, frmMain &w)
     using documents::Document;
 
     // File
-    t.add({QStringLiteral("mnuNew"), QStringLiteral("&New"), {}, K(K::New)});
+    t.add({QStringLiteral("mnuNew"), QStringLiteral("&New"), [&w] { documents::ui::mnuNew_Click(&w); }, K(K::New)});
     t.add({QStringLiteral("mnuOpen"), QStringLiteral("&Open..."), [] { documents::mnuOpen_Click(); }, K(K::Open)});
     t.add({QStringLiteral("mnuSave"), QStringLiteral("&Save"), onDocument([](Document &d) { d.Save(); }), K(K::Save)});
     t.add({QStringLiteral("mnuSaveAs"), QStringLiteral("Save &As..."), onDocument([](Document &d) { d.SaveAs(); }),
@@ -56,6 +59,16 @@ void registerCommands(CommandTable &t, frmMain &w)
            }, K(K::Close)});
     t.add({QStringLiteral("mnuPrint"), QStringLiteral("&Print..."),
            onDocument([](Document &d) { d.txtDoc().PrintMe(d.caption()); }), K(K::Print)});
+    t.add({QStringLiteral("mnuSaveTemplate"), QStringLiteral("Save as &Template..."),
+           [&w] { documents::ui::mnuSaveTemplate_Click(&w); }});
+    t.add({QStringLiteral("mnuPrintSetup"), QStringLiteral("Print Set&up..."),
+           [&w] { documents::ui::mnuPrintSetup_Click(&w); }});
+    // The recent files; each entry shows once the list fills it.
+    for (int n = 1; n <= 4; ++n) {
+        t.add({QStringLiteral("FileRecent") + QString::number(n), u'&' + QString::number(n),
+               [n] { documents::FileRecent_Click(n); }})
+            ->setVisible(false);
+    }
     t.add({QStringLiteral("mnuExit"), QStringLiteral("E&xit"), [&w] { w.close(); }, K(K::Quit)});
 
     // Edit
@@ -91,7 +104,9 @@ const std::vector<MenuLayout> &menuLayout()
     static const std::vector<MenuLayout> layout = {
         {QStringLiteral("mnuFile"), QStringLiteral("&File"),
          {QStringLiteral("mnuNew"), QStringLiteral("mnuOpen"), QStringLiteral("mnuSave"), QStringLiteral("mnuSaveAs"),
-          QStringLiteral("mnuSaveAll"), QStringLiteral("mnuClose"), QString(), QStringLiteral("mnuPrint"), QString(),
+          QStringLiteral("mnuSaveAll"), QStringLiteral("mnuSaveTemplate"), QStringLiteral("mnuClose"), QString(),
+          QStringLiteral("mnuPrintSetup"), QStringLiteral("mnuPrint"), QString(), QStringLiteral("FileRecent1"),
+          QStringLiteral("FileRecent2"), QStringLiteral("FileRecent3"), QStringLiteral("FileRecent4"), QString(),
           QStringLiteral("mnuExit")}},
         {QStringLiteral("mnuHdg"), QStringLiteral("&Edit"),
          {QStringLiteral("EditUndo"), QStringLiteral("EditRedo"), QString(), QStringLiteral("EditCut"),

@@ -1,7 +1,9 @@
 #include "documents/ui/ScintillaEdit.h"
 
+#include "core/Feedback.h"
 #include "core/FileIo.h"
 #include "documents/ui/EditColors.h"
+#include "documents/ui/PrintSetup.h"
 
 #include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciprinter.h>
@@ -427,11 +429,15 @@ void ScintillaEdit::setSelIndent(int indent)
 bool ScintillaEdit::PrintMe(const QString &jobName)
 {
     QsciPrinter printer;
+    ApplyPrintSetup(printer);
     printer.setDocName(jobName);
     QPrintDialog dialog(&printer, m_sci);
     if (dialog.exec() != QDialog::Accepted)
         return false;
+    KeepPrintSetup(printer);
+    core::BeginWait();
     printer.printRange(m_sci);
+    core::EndWait();
     return true;
 }
 
