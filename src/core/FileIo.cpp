@@ -26,7 +26,7 @@ IoResult writeFileAtomically(const QString &path, const QByteArray &bytes)
     const QFileInfo info(path);
     // A file with no write permission bits is read-only for every user, the
     // superuser included, as a read-only file is on other systems.
-    constexpr QFile::Permissions anyWrite = QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+    constexpr QFile::Permissions anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     if (info.exists() && (!info.isFile() || !info.isWritable() || !(info.permissions() & anyWrite)))
         return {ErrFileAccess, QStringLiteral("Permission denied")};
 

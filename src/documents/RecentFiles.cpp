@@ -50,8 +50,12 @@ QString ShortenPath(const QString &path)
         const qsizetype headEnd = nextSeparator(path, 3);
         const qsizetype last = previousSeparator(path, path.size() - 1);
         const qsizetype butOne = previousSeparator(path, last - 1);
-        if (headEnd >= 0 && butOne >= 0)
-            return path.left(headEnd + 1) + QStringLiteral("..") + path.mid(butOne);
+        if (headEnd >= 0 && butOne >= 0) {
+            const QString shortened = path.left(headEnd + 1) + QStringLiteral("..") + path.mid(butOne);
+            // With few separators head and tail overlap; then the plain cut is shorter.
+            if (shortened.size() < path.size())
+                return shortened;
+        }
     }
     return path.right(kShortLimit - 1);
 }

@@ -22,7 +22,8 @@ bool FileRecent_Click(int index);
 // The path as a menu shows it: under 51 characters as it is; a longer
 // path on a drive ("C:...") as its head through the first separator at or
 // after the fourth character, "..", and the tail from the last separator
-// but one; any other long path as its last 50 characters.
+// but one (unless that is no shorter); any other long path as its last 50
+// characters.
 QString ShortenPath(const QString &path);
 
 // The menu entries, filled by the main window: entry n gets `caption` and
