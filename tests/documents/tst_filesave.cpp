@@ -3,7 +3,6 @@
 #include "documents/AutoSave.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
-#include "documents/TempFiles.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -13,22 +12,17 @@
 using namespace qly;
 using platform::Answer;
 
-// Saving: failed writes, the save questions, the session list, auto-save
-// and temporary files.
+// Saving: failed writes, the session list and auto-save.
 class tst_FileSave : public QObject
 {
     Q_OBJECT
 private slots:
     void readOnlyFileKeepsChanges();
     void saveIntoRemovedDirectory();
-    void untitledSaveGoesThroughTheDialog();
     void sessionListOnCancel();
     void sessionListLimit();
-    void closeQuery_data();
-    void closeQuery();
     void autoSaveThreshold_data();
     void autoSaveThreshold();
-    void tempFiles();
 };
 
 namespace {
@@ -62,16 +56,6 @@ void tst_FileSave::readOnlyFileKeepsChanges()
     QVERIFY(doc->edit.Dirty());
     QCOMPARE(env.read(QStringLiteral("ro.htm")), QByteArray("original"));
 
-    // Save As onto the read-only file: the same box, and the document keeps its name.
-    const QString other = env.write(QStringLiteral("other.htm"), "x");
-    doc->ShowCaptionAndTab(other);
-    doc->LocalFileName = other;
-    QVERIFY(!doc->NamedSaveAs(path));
-    QCOMPARE(prompts.shown.size(), 2);
-    QCOMPARE(prompts.shown[1].text, prompts.shown[0].text);
-    QCOMPARE(doc->LocalFileName, other);
-    QCOMPARE(doc->caption(), other);
-    QCOMPARE(env.read(QStringLiteral("ro.htm")), QByteArray("original"));
 }
 
 void tst_FileSave::saveIntoRemovedDirectory()
@@ -109,32 +93,6 @@ void tst_FileSave::saveIntoRemovedDirectory()
     QCOMPARE(QDir(env.path(QStringLiteral("keep"))).entryList(QDir::Files), QStringList{QStringLiteral("page.htm")});
 }
 
-void tst_FileSave::untitledSaveGoesThroughTheDialog()
-{
-    test::TestEnv env;
-    test::ScriptedPrompts prompts;
-    test::FakeWorkspace ws;
-    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"), QStringLiteral("html"));
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("Untitled-1"),
-                                             QStringLiteral("<html><title> My Page </title></html>"));
-    prompts.chooseNothing();
-    QVERIFY(!doc->Save());
-    QCOMPARE(prompts.fileRequests[0].fileName, QStringLiteral("My Page"));
-    QCOMPARE(prompts.fileRequests[0].title, QStringLiteral("Quillery 4.01 - Save File As"));
-    QCOMPARE(doc->caption(), QStringLiteral("Untitled-1"));
-    QVERIFY(doc->LocalFileName.isEmpty());
-
-    // Save As writes the file but leaves Dirty, so the exit still asks.
-    prompts.chooseFiles({env.path(QStringLiteral("mine"))});
-    QVERIFY(doc->SaveAs());
-    QCOMPARE(doc->LocalFileName, env.path(QStringLiteral("mine.html")));
-    QCOMPARE(doc->caption(), doc->LocalFileName);
-    QCOMPARE(env.read(QStringLiteral("mine.html")), QByteArray("<html><title> My Page </title></html>"));
-    QVERIFY(doc->edit.Dirty());
-    QVERIFY(doc->Save());
-    QVERIFY(!doc->edit.Dirty());
-}
-
 void tst_FileSave::sessionListOnCancel()
 {
     test::TestEnv env;
@@ -162,13 +120,6 @@ void tst_FileSave::sessionListOnCancel()
     QVERIFY(c->edit.Dirty());
     QCOMPARE(ws.count(), 3);
 
-    // Save All asks nothing, saves the changed ones and lists every file.
-    QString names;
-    c->edit.setText(QStringLiteral("c2"));
-    QVERIFY(documents::SaveAllDocuments(false, true, &names));
-    QCOMPARE(env.read(QStringLiteral("c.htm")), QByteArray("c2"));
-    QCOMPARE(session(3).section(u',', 0, 0), a->caption());
-    QCOMPARE(names, c->caption() + core::gCRLF + b->caption() + core::gCRLF + a->caption() + core::gCRLF);
 }
 
 void tst_FileSave::sessionListLimit()
@@ -196,50 +147,6 @@ void tst_FileSave::sessionListLimit()
     QCOMPARE(session(131).section(u',', 0, 0), env.path(QStringLiteral("one.htm")));
     QCOMPARE(session(1).section(u',', 0, 0), env.path(QStringLiteral("d129.htm")));
     QCOMPARE(session(132), QString());
-}
-
-void tst_FileSave::closeQuery_data()
-{
-    QTest::addColumn<bool>("closing");
-    QTest::addColumn<bool>("dirty");
-    QTest::addColumn<int>("answer");     // -1: none
-    QTest::addColumn<bool>("pickFile");  // the Save As dialog of an untitled document
-    QTest::addColumn<bool>("cancelled");
-    QTest::addColumn<int>("asked");
-    QTest::newRow("clean") << false << false << -1 << false << false << 0;
-    QTest::newRow("closing asks nothing") << true << true << -1 << false << false << 0;
-    QTest::newRow("no") << false << true << int(Answer::No) << false << false << 1;
-    QTest::newRow("cancel") << false << true << int(Answer::Cancel) << false << true << 1;
-    QTest::newRow("yes, dialog cancelled") << false << true << int(Answer::Yes) << false << true << 1;
-    QTest::newRow("yes, saved") << false << true << int(Answer::Yes) << true << false << 1;
-}
-
-void tst_FileSave::closeQuery()
-{
-    QFETCH(bool, closing);
-    QFETCH(bool, dirty);
-    QFETCH(int, answer);
-    QFETCH(bool, pickFile);
-    QFETCH(bool, cancelled);
-    QFETCH(int, asked);
-    test::TestEnv env;
-    test::ScriptedPrompts prompts;
-    test::FakeWorkspace ws;
-    core::gClosing = closing;
-    test::FakeDocument *doc = ws.addDocument(QStringLiteral("Untitled-2"), QStringLiteral("text"));
-    doc->edit.setDirty(dirty);
-    if (answer >= 0)
-        prompts.answer(Answer(answer));
-    if (pickFile)
-        prompts.chooseFiles({env.path(QStringLiteral("saved.htm"))});
-    else
-        prompts.chooseNothing();
-
-    QCOMPARE(documents::DocumentCloseQuery(*doc), cancelled);
-    QCOMPARE(prompts.shown.size(), asked);
-    QCOMPARE(doc->activations, asked);
-    QCOMPARE(QFile::exists(env.path(QStringLiteral("saved.htm"))), pickFile);
-    core::gClosing = false;
 }
 
 void tst_FileSave::autoSaveThreshold_data()
@@ -298,32 +205,6 @@ void tst_FileSave::autoSaveThreshold()
     QCOMPARE(ws.document(0)->LocalFileName, page);
     QCOMPARE(env.read(QStringLiteral("page.htm")), QByteArray("on disk"));
     documents::autoSaveTimerSwitch() = nullptr;
-}
-
-void tst_FileSave::tempFiles()
-{
-    test::TestEnv env;
-    const QString made = documents::GetTempName();
-    QVERIFY(QFileInfo(made).fileName().startsWith(QStringLiteral("~qn")));
-    QVERIFY(QFile::exists(made));
-    const QString named = documents::GetTempName(QStringLiteral("htm"));
-    QVERIFY(named.endsWith(QStringLiteral(".htm")));
-    QVERIFY(QFileInfo(named).fileName().startsWith(QStringLiteral("~qn")));
-    QCOMPARE(QFileInfo(named).absolutePath(), QFileInfo(QDir::tempPath()).absoluteFilePath());
-    QVERIFY(QFile::exists(QFileInfo(named).absolutePath() + u'/' + QFileInfo(named).completeBaseName() + QStringLiteral(".tmp")));
-    QFile::remove(made);
-
-    const QStringList swept = {QStringLiteral("~qly1234.tmp"), QStringLiteral("~qlytemp.htm"), QStringLiteral("~qlab.htm")};
-    const QStringList kept = {QStringLiteral("~qlab.txt"), QStringLiteral("~qn1.htm"), QStringLiteral("page.htm")};
-    for (const QString &name : swept + kept)
-        env.write(QStringLiteral("docs/") + name, "x");
-    documents::CleanTempFiles(env.path(QStringLiteral("docs")));
-    QStringList left = QDir(env.path(QStringLiteral("docs"))).entryList(QDir::Files);
-    QStringList expected = kept;
-    left.sort();
-    expected.sort();
-    QCOMPARE(left, expected);
-    documents::CleanTempFiles(QString());   // no directory: nothing happens
 }
 
 QTEST_GUILESS_MAIN(tst_FileSave)

@@ -151,11 +151,6 @@ void tst_FileWindow::startupDocumentAndTimer()
     QVERIFY(timer);
     QCOMPARE(timer->interval(), 60000);
     QVERIFY(timer->isActive());
-    // A pass switches the timer off and on again through the main window.
-    documents::autoSaveTimerSwitch()(false);
-    QVERIFY(!timer->isActive());
-    documents::autoSaveTimerSwitch()(true);
-    QVERIFY(timer->isActive());
 }
 
 void tst_FileWindow::droppedFiles()
