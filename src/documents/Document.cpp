@@ -9,18 +9,31 @@
 #include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
+#include <QFileInfo>
+
 namespace qly::documents {
 
 using namespace qly::core;
 
 namespace {
 
+// Tells why a save failed. A read-only file gets the box users know; other
+// failures say what went wrong. The old file is whole in every case, since
+// saves are atomic.
 void reportSaveFailure(const QString &path, const IoResult &result)
 {
-    const QString text = result.error == ErrFileAccess
-        ? QStringLiteral("This file is read-only and Quillery 4.01 cannot save any changes to it.")
-        : QStringLiteral("Quillery 4.01 could not save ") + path + QStringLiteral(": ") + result.message
-              + QStringLiteral(". The file on disk has not been changed.");
+    const QFileInfo info(path);
+    const QString dir = info.absolutePath();
+    QString text;
+    if (result.error == ErrFileAccess && info.exists()) {
+        text = QStringLiteral("This file is read-only and Quillery 4.01 cannot save any changes to it.");
+    } else if (!DirExists(dir)) {
+        text = QStringLiteral("Quillery 4.01 could not save ") + path + QStringLiteral(": the folder ") + dir
+               + QStringLiteral(" does not exist. Nothing has been written.");
+    } else {
+        text = QStringLiteral("Quillery 4.01 could not save ") + path + QStringLiteral(": ") + result.message
+               + QStringLiteral(". Any earlier version of the file is unchanged.");
+    }
     platform::MsgBox(text, platform::Buttons::Ok, platform::Icon::Exclamation,
                      QStringLiteral("Problem Saving File"));
 }
@@ -121,6 +134,12 @@ bool Document::NamedSaveAs(const QString &chosen)
             ext = QStringLiteral("HTM");
         path += u'.' + ext;
     }
+    // What the document was, should the write fail: it then keeps its old name.
+    const QString oldFile = LocalFileName;
+    const QString oldShow = ShowFileName;
+    const QString oldCaption = caption();
+    const bool oldRemote = bRemote;
+
     LocalFileName = path;
     FileRegistry::instance().SetFileName(filenum, path);
     ShowCaptionAndTab(path);
@@ -129,6 +148,11 @@ bool Document::NamedSaveAs(const QString &chosen)
     const IoResult result = txtDoc().SaveFile(1, path);
     if (!result.ok()) {
         reportSaveFailure(path, result);
+        LocalFileName = oldFile;
+        FileRegistry::instance().SetFileName(filenum, oldFile);
+        ShowCaptionAndTab(oldCaption);
+        ShowFileName = oldShow;
+        bRemote = oldRemote;
         return false;
     }
     return true;

@@ -25,7 +25,11 @@ void mnuOpen_Click()
         ShowStatus(QString());
         return;
     }
-    for (const QString &file : answer.files) {
+    // The dialog's answer holds at most 50 files (a directory and 50 names);
+    // further ones are not opened.
+    constexpr qsizetype kMostFiles = 50;
+    const QStringList files = answer.files.mid(0, kMostFiles);
+    for (const QString &file : files) {
         OpenDocumentFile(file);
         DoEvents();
     }

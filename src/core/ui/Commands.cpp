@@ -8,10 +8,13 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/FileMenu.h"
+#include "documents/RecentFiles.h"
+#include "documents/ui/FileLifecycle.h"
 #include "markup/FormatMenu.h"
 #include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
 
+#include <QAction>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -53,7 +56,14 @@ void registerCommands(CommandTable &t, frmMain &w)
         t.declare(info.name, info.caption, info.key);
 
     // File
+    t.bind(N("mnuNew"), [&w] { documents::ui::mnuNew_Click(&w); });
     t.bind(N("mnuOpen"), [] { documents::mnuOpen_Click(); });
+    t.bind(N("mnuSaveTemplate"), [&w] { documents::ui::mnuSaveTemplate_Click(&w); });
+    t.bind(N("mnuPrintSetup"), [&w] { documents::ui::mnuPrintSetup_Click(&w); });
+    for (int n = 1; n <= 4; ++n) {
+        QAction *recent = t.bind(QStringLiteral("FileRecent%1").arg(n), [n] { documents::FileRecent_Click(n); });
+        recent->setVisible(false);   // shown once the list has an entry
+    }
     t.bind(N("mnuSave"), onDocument([](Document &d) { d.Save(); }));
     t.bind(N("mnuSaveAs"), onDocument([](Document &d) { d.SaveAs(); }));
     t.bind(N("mnuSaveAll"), [] { documents::SaveAllDocuments(false); });

@@ -12,6 +12,7 @@
 #include "core/ui/Splash.h"
 #include "core/ui/TermSignal.h"
 #include "documents/Document.h"
+#include "documents/ui/FileLifecycle.h"
 #include "platform/ui/QtPrompts.h"
 
 #include <QApplication>
@@ -80,6 +81,7 @@ int Main(int argc, char **argv)
     frmMain window;
     prompts.setParent(&window);
     Workspace::setInstance(&window);
+    documents::ui::InstallFileLifecycle(window);
     loadMainWindow(window);
 
     // 3. The splash stays until the tag tree is up.

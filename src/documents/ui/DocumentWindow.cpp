@@ -4,7 +4,9 @@
 #include "core/ui/Twips.h"
 #include "core/Workspace.h"
 #include "documents/DocumentList.h"
+#include "documents/DroppedFile.h"
 #include "documents/FileRegistry.h"
+#include "documents/ui/FileDrops.h"
 #include "documents/ui/ScintillaEdit.h"
 #include "platform/Prompts.h"
 
@@ -58,6 +60,8 @@ DocumentWindow::DocumentWindow(QWidget *parent)
     connect(m_edit, &ScintillaEdit::caretMoved, this, &DocumentWindow::updatePosition);
     connect(m_tabDoc, &QTabWidget::currentChanged, this, &DocumentWindow::onTabChanged);
     setFocusProxy(m_edit->view());
+    // Files dropped from the desktop are put into the text by their kind.
+    AcceptFileDrops(m_edit->view()->viewport(), [this](const QString &path) { txtDoc_DropFileOnMe(*this, path); });
 }
 
 DocumentWindow::~DocumentWindow()

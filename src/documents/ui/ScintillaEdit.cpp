@@ -1,8 +1,10 @@
 #include "documents/ui/ScintillaEdit.h"
 
+#include "core/Feedback.h"
 #include "core/FileIo.h"
 #include "documents/TextSearch.h"
 #include "documents/ui/EditColors.h"
+#include "documents/ui/PrintSetup.h"
 
 #include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciprinter.h>
@@ -451,11 +453,15 @@ void ScintillaEdit::setSelIndent(int indent)
 bool ScintillaEdit::PrintMe(const QString &jobName)
 {
     QsciPrinter printer;
+    ApplyPrintSetup(printer);
     printer.setDocName(jobName);
     QPrintDialog dialog(&printer, m_sci);
     if (dialog.exec() != QDialog::Accepted)
         return false;
+    KeepPrintSetup(printer);
+    core::BeginWait();
     printer.printRange(m_sci);
+    core::EndWait();
     return true;
 }
 

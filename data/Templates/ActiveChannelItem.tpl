@@ -1,0 +1,3 @@
+<ITEM HREF="%ItemURL%">
+<TITLE>%ItemName%</TITLE>
+</ITEM>

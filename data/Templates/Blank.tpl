@@ -1,0 +1,8 @@
+<HTML>
+<HEAD>
+<TITLE></TITLE>
+</HEAD>
+<BODY>
+
+</BODY>
+</HTML>

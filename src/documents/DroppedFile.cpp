@@ -1,0 +1,94 @@
+#include "documents/DroppedFile.h"
+
+#include "core/FileIo.h"
+#include "core/Paths.h"
+#include "core/TextCodec.h"
+#include "documents/Document.h"
+#include "documents/DocumentList.h"
+#include "platform/HTMLEdit.h"
+#include "platform/Prompts.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace qly::documents {
+
+using namespace qly::core;
+
+namespace {
+
+void insert(Document &document, const QString &text)
+{
+    platform::HTMLEdit &edit = document.txtDoc();
+    edit.setSelText(text);
+    edit.setDirty(true);
+}
+
+QString linkMarkup(Document &document, const QString &path)
+{
+    const QString selected = document.txtDoc().SelText();
+    const QString text = selected.isEmpty() ? FileNameOf(path) : selected;
+    return QStringLiteral("<A HREF=\"") + DroppedFileLink(document, path) + QStringLiteral("\">") + text
+           + QStringLiteral("</A>");
+}
+
+} // namespace
+
+DropKind DroppedFileKind(const QString &path)
+{
+    static const QStringList links = {QStringLiteral("HTM"), QStringLiteral("HT3"), QStringLiteral("SHT"),
+                                      QStringLiteral("PUB"), QStringLiteral("HTML"), QStringLiteral("SHTML")};
+    static const QStringList images = {QStringLiteral("GIF"), QStringLiteral("JPG"), QStringLiteral("XBM")};
+    const QString ext = GetFileExt(path).toUpper();
+    if (links.contains(ext))
+        return DropKind::Link;
+    if (images.contains(ext))
+        return DropKind::Image;
+    if (ext == QLatin1String("TXT"))
+        return DropKind::Text;
+    return DropKind::Other;
+}
+
+QString DroppedFileLink(const Document &document, const QString &path)
+{
+    if (document.LocalFileName.isEmpty() || document.bRemote)
+        return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toString();
+    const QDir base = QFileInfo(document.LocalFileName).absoluteDir();
+    return QDir::fromNativeSeparators(base.relativeFilePath(QFileInfo(path).absoluteFilePath()));
+}
+
+void txtDoc_DropFileOnMe(Document &document, const QString &path)
+{
+    switch (DroppedFileKind(path)) {
+    case DropKind::Link:
+        insert(document, linkMarkup(document, path));
+        return;
+    case DropKind::Image:
+        insert(document, QStringLiteral("<IMG SRC=\"") + DroppedFileLink(document, path) + QStringLiteral("\">"));
+        return;
+    case DropKind::Text: {
+        QByteArray bytes;
+        const IoResult read = readWholeFile(path, bytes);
+        if (!read.ok()) {
+            platform::MsgBox(path + QStringLiteral(": ") + read.message, platform::Buttons::Ok,
+                             platform::Icon::Exclamation);
+            return;
+        }
+        insert(document, decodeFile(bytes).text);
+        return;
+    }
+    case DropKind::Other:
+        break;
+    }
+    const platform::Answer answer = platform::MsgBox(
+        QStringLiteral("Insert a link to ") + FileNameOf(path)
+            + QStringLiteral("?\n\nYes inserts a link, No opens the file as a document of its own."),
+        platform::Buttons::YesNoCancel, platform::Icon::Question);
+    if (answer == platform::Answer::Yes)
+        insert(document, linkMarkup(document, path));
+    else if (answer == platform::Answer::No)
+        OpenDocumentFile(path);
+}
+
+} // namespace qly::documents

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace qly::documents {
+
+class Document;
+
+// What a file dropped from the desktop onto a document becomes.
+enum class DropKind {
+    Link,    // HTM, HT3, SHT, PUB, HTML, SHTML: a link to it
+    Image,   // GIF, JPG, XBM: an image tag
+    Text,    // TXT: its text
+    Other,   // the user is asked
+};
+DropKind DroppedFileKind(const QString &path);
+
+// The reference to `path` as it stands in the document: relative to the
+// document's directory with "/" separators, or a file URL while the
+// document has no file.
+QString DroppedFileLink(const Document &document, const QString &path);
+
+// Inserts the dropped file at the caret: "<A HREF="link">" with the
+// selection or the file name and "</A>", "<IMG SRC="link">", or the text
+// of a TXT file. For other kinds the user chooses: Yes links to the file,
+// No opens it as a document, Cancel does nothing.
+void txtDoc_DropFileOnMe(Document &document, const QString &path);
+
+} // namespace qly::documents

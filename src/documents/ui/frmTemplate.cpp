@@ -1,0 +1,50 @@
+#include "documents/ui/frmTemplate.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace qly::documents::ui {
+
+frmTemplate::frmTemplate(QWidget *parent)
+    : QDialog(parent)
+    , m_txtName(new QLineEdit(this))
+{
+    setObjectName(QStringLiteral("frmTemplate"));
+    setWindowTitle(QStringLiteral("Save as Template"));
+    auto *layout = new QFormLayout(this);
+    m_txtName->setObjectName(QStringLiteral("txtName"));
+    layout->addRow(QStringLiteral("Template name:"), m_txtName);
+
+    auto *buttons = new QDialogButtonBox(this);
+    QPushButton *ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    ok->setDefault(true);
+    ok->setEnabled(false);
+    buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdCancel"));
+    buttons->addButton(QStringLiteral("Help"), QDialogButtonBox::HelpRole)->setObjectName(QStringLiteral("cmdHelp"));
+    layout->addRow(buttons);
+
+    connect(m_txtName, &QLineEdit::textChanged, ok, [ok](const QString &text) { ok->setEnabled(!text.trimmed().isEmpty()); });
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+        m_tag = QStringLiteral("1");
+        accept();
+    });
+    connect(buttons, &QDialogButtonBox::rejected, this, [this] {
+        m_tag = QStringLiteral("0");
+        reject();
+    });
+    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
+        QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
+    });
+}
+
+QString frmTemplate::templateName() const
+{
+    return m_txtName->text().trimmed();
+}
+
+} // namespace qly::documents::ui
