@@ -7,55 +7,12 @@
 #include "core/Settings.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
+#include "markup/TextOps.h"
 #include "platform/HTMLEdit.h"
 
 namespace qly::documents {
 
 using namespace qly::core;
-
-namespace {
-
-bool isNameChar(QChar c)
-{
-    return c.isLetterOrNumber() || c == u'-' || c == u'_' || c == u':' || c == u'.';
-}
-
-// Lower-cases the names of tags ("<TABLE", "</TD", "<!DOCTYPE" stays as it
-// is) in one pass; comments, attributes and text are left alone.
-QString lowerCaseTagNames(const QString &text)
-{
-    QString out = text;
-    const qsizetype n = out.size();
-    qsizetype i = 0;
-    while (i < n) {
-        if (out.at(i) != u'<') {
-            ++i;
-            continue;
-        }
-        if (out.mid(i, 4) == QLatin1String("<!--")) {
-            const qsizetype end = out.indexOf(QLatin1String("-->"), i + 4);
-            if (end < 0)
-                break;
-            i = end + 3;
-            continue;
-        }
-        qsizetype j = i + 1;
-        if (j < n && out.at(j) == u'/')
-            ++j;
-        if (j >= n || !out.at(j).isLetter()) {
-            i = j;
-            continue;
-        }
-        while (j < n && isNameChar(out.at(j))) {
-            out[j] = out.at(j).toLower();
-            ++j;
-        }
-        i = j;
-    }
-    return out;
-}
-
-} // namespace
 
 QString TemplatesDirectory()
 {
@@ -115,7 +72,7 @@ Document *NewDocument(const QString &templateIn)
 
     platform::HTMLEdit &edit = doc->txtDoc();
     if (ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Lower Case Tags"))) {
-        const QString lowered = lowerCaseTagNames(edit.Text());
+        const QString lowered = markup::LowerCaseTags(edit.Text());
         if (lowered != edit.Text()) {
             edit.setText(lowered);
             edit.SetSel(0, 0);
