@@ -6,6 +6,11 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/FileMenu.h"
+#include "core/ui/Main.h"
+#include "markup/CharacterCommands.h"
+#include "markup/LinkCommands.h"
+#include "markup/ui/MarkupActions.h"
+#include "markup/ui/frmEntities.h"
 #include "platform/HTMLEdit.h"
 
 #include <QKeySequence>
@@ -74,6 +79,22 @@ void registerCommands(CommandTable &t, frmMain &w)
     // Tools
     t.add({QStringLiteral("ToolsOptions"), QStringLiteral("&Options..."), {}});
 
+    // Character translation, links and clean-up
+    t.add({QStringLiteral("EditTranslate"), QStringLiteral("Tra&nslate Extended Chars"),
+           [] { markup::EditTranslate_Click(); }});
+    t.add({QStringLiteral("EditAbsToRel"), QStringLiteral("A&bsolute to Relative"), [] { markup::EditAbsToRel_Click(); }});
+    t.add({QStringLiteral("EditRelToAbs"), QStringLiteral("Relati&ve To Absolute"), [] { markup::EditRelToAbs_Click(); }});
+    t.add({QStringLiteral("EditRemoveLinks"), QStringLiteral("&Remove Links"),
+           [] { markup::ui::RemoveMarkupWithEscape(QStringLiteral("LINK")); }});
+    t.add({QStringLiteral("EditRemoveHTML"), QStringLiteral("Remove &HTML Tags"),
+           [] { markup::ui::RemoveMarkupWithEscape(QStringLiteral("ALL")); }});
+    t.add({QStringLiteral("ToolsFindDup"), QStringLiteral("Find &Duplicate Links..."),
+           [&w] { markup::ui::FindDuplicateLinks(&w); }});
+    const QString chars = QStringLiteral("ViewSpecialCharacters");
+    t.add({chars, QStringLiteral("Special &Characters..."),
+           [&t, &w, chars] { markup::ui::frmEntities::toggle(&w, t.action(chars)); }, {}, {}, true});
+    startupSteps().showEntities = [&t, chars](frmMain &main) { markup::ui::frmEntities::showList(&main, t.action(chars)); };
+
     // Window
     t.add({QStringLiteral("mnuWindow0"), QStringLiteral("&Cascade"), [&w] { w.mdiArea()->cascadeSubWindows(); }});
     t.add({QStringLiteral("mnuWindow1"), QStringLiteral("&Tile"), [&w] { w.mdiArea()->tileSubWindows(); }});
@@ -96,8 +117,11 @@ const std::vector<MenuLayout> &menuLayout()
         {QStringLiteral("mnuHdg"), QStringLiteral("&Edit"),
          {QStringLiteral("EditUndo"), QStringLiteral("EditRedo"), QString(), QStringLiteral("EditCut"),
           QStringLiteral("EditCopy"), QStringLiteral("EditPaste"), QString(), QStringLiteral("EditSelectAll"),
-          QStringLiteral("EditSelectTag")}},
-        {QStringLiteral("Tools"), QStringLiteral("&Tools"), {QStringLiteral("ToolsOptions")}},
+          QStringLiteral("EditSelectTag"), QString(), QStringLiteral("EditTranslate"), QStringLiteral("EditAbsToRel"),
+          QStringLiteral("EditRelToAbs"), QStringLiteral("EditRemoveLinks"), QStringLiteral("EditRemoveHTML")}},
+        {QStringLiteral("View"), QStringLiteral("&View"), {QStringLiteral("ViewSpecialCharacters")}},
+        {QStringLiteral("Tools"), QStringLiteral("&Tools"),
+         {QStringLiteral("ToolsFindDup"), QString(), QStringLiteral("ToolsOptions")}},
         {QStringLiteral("Window"), QStringLiteral("&Window"),
          {QStringLiteral("mnuWindow0"), QStringLiteral("mnuWindow1"), QStringLiteral("mnuWindow2"), QString(),
           QStringLiteral("mnuWindow4")}},
