@@ -100,11 +100,11 @@ void tst_NewDocument::lowerCaseTagsOnNewDocuments()
     test::TestEnv env;
     test::ScriptedPrompts prompts;
     test::FakeWorkspace ws;
-    const QByteArray text = "<HTML><BODY>Text <B>BOLD</B><!-- <KEEP> --></BODY></HTML>";
+    const QByteArray text = "<HTML><BODY>Text <B>BOLD</B><A HREF=\"UP.HTML\">UP</A></BODY></HTML>";
     installTemplate(env, QStringLiteral("HTML32.tpl"), text);
     core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Lower Case Tags"), QStringLiteral("yes"));
     documents::Document *doc = NewDocument(QString());
-    QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<html><body>Text <b>BOLD</b><!-- <KEEP> --></body></html>"));
+    QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<html><body>Text <b>BOLD</b><a href=\"UP.HTML\">UP</a></body></html>"));
     QVERIFY(!doc->txtDoc().Dirty());
     QCOMPARE(env.read(QStringLiteral("Templates/HTML32.tpl")), text);
 }

@@ -10,7 +10,12 @@
 #include "documents/FileMenu.h"
 #include "documents/RecentFiles.h"
 #include "documents/ui/FileLifecycle.h"
+#include "core/ui/Main.h"
+#include "markup/CharacterCommands.h"
 #include "markup/FormatMenu.h"
+#include "markup/LinkCommands.h"
+#include "markup/ui/MarkupActions.h"
+#include "markup/ui/frmEntities.h"
 #include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
 
@@ -85,6 +90,18 @@ void registerCommands(CommandTable &t, frmMain &w)
         e.setSelLength(e.GetTextLength());
     }));
     t.bind(N("EditSelectTag"), onBuffer([](HTMLEdit &e) { e.SelectTag(); }));
+
+    // Character translation, links and clean-up
+    t.bind(N("EditTranslate"), [] { markup::EditTranslate_Click(); });
+    t.bind(N("EditAbsToRel"), [] { markup::EditAbsToRel_Click(); });
+    t.bind(N("EditRelToAbs"), [] { markup::EditRelToAbs_Click(); });
+    t.bind(N("EditRemoveLinks"), [] { markup::ui::RemoveMarkupWithEscape(QStringLiteral("LINK")); });
+    t.bind(N("EditRemoveHTML"), [] { markup::ui::RemoveMarkupWithEscape(QStringLiteral("ALL")); });
+    t.bind(N("ToolsFindDup"), [&w] { markup::ui::FindDuplicateLinks(&w); });
+    QAction *chars = t.action(N("ViewSpecialCharacters"));
+    chars->setCheckable(true);
+    t.bind(N("ViewSpecialCharacters"), [&w, chars] { markup::ui::frmEntities::toggle(&w, chars); });
+    startupSteps().showEntities = [chars](frmMain &main) { markup::ui::frmEntities::showList(&main, chars); };
 
     // Format
     t.bind(N("FormatLeft"), [] { markup::FormatLeft_Click(); });

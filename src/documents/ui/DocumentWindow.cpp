@@ -8,6 +8,7 @@
 #include "documents/FileRegistry.h"
 #include "documents/ui/FileDrops.h"
 #include "documents/ui/ScintillaEdit.h"
+#include "markup/CharacterCommands.h"
 #include "platform/Prompts.h"
 
 #include <Qsci/qsciscintilla.h>
@@ -272,6 +273,17 @@ bool DocumentWindow::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     switch (event->type()) {
+    case QEvent::KeyPress: {
+        // A typed character may go in as its entity instead.
+        const QList<uint> typed = static_cast<QKeyEvent *>(event)->text().toUcs4();
+        if (core::gTranslateWhileTyping && typed.size() == 1) {
+            int keyAscii = int(typed.first());
+            markup::TranslateKey(keyAscii);
+            if (keyAscii == 0)
+                return true;
+        }
+        break;
+    }
     case QEvent::KeyRelease: {
         const auto *key = static_cast<QKeyEvent *>(event);
         const bool plainRight = key->key() == Qt::Key_Right && key->modifiers() == Qt::NoModifier;

@@ -1,0 +1,91 @@
+#include "cli/Commands.h"
+
+#include "core/Globals.h"
+#include "core/Settings.h"
+#include "core/Startup.h"
+
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace qly::cli {
+
+namespace {
+
+void printError(const QString &text)
+{
+    std::fprintf(stderr, "quillery-cli: %s\n", text.toLocal8Bit().constData());
+}
+
+} // namespace
+
+const std::vector<Subcommand> &subcommands()
+{
+    static const std::vector<Subcommand> table = {
+        {QStringLiteral("publish"), QStringLiteral("SOURCE TARGET"),
+         QStringLiteral("Publish SOURCE into TARGET with the [Publishing] settings"), publishCommand},
+    };
+    return table;
+}
+
+QString usage()
+{
+    QString text = QStringLiteral("Usage: quillery-cli [--ini FILE] COMMAND [ARGUMENTS]\n\n"
+                                  "Options:\n"
+                                  "  --ini FILE   use FILE as the configuration file\n"
+                                  "  --help, -h   show this text\n\n"
+                                  "Commands:\n");
+    for (const Subcommand &c : subcommands())
+        text += QStringLiteral("  %1 %2\n      %3\n").arg(c.name, c.arguments, c.summary);
+    text += QStringLiteral("\nExit status: 0 on success, 1 when the work failed, 2 on a usage error.\n");
+    return text;
+}
+
+int runCommandLine(const QStringList &arguments)
+{
+    QStringList rest;
+    QString ini;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString &a = arguments.at(i);
+        if (a == QLatin1String("--help") || a == QLatin1String("-h")) {
+            std::fputs(usage().toLocal8Bit().constData(), stdout);
+            return ExitOk;
+        }
+        if (a == QLatin1String("--ini") || a.startsWith(QLatin1String("--ini="))) {
+            if (a.size() > 5) {
+                ini = a.mid(6);
+            } else if (i + 1 < arguments.size()) {
+                ini = arguments.at(++i);
+            } else {
+                printError(QStringLiteral("--ini needs a file name"));
+                return ExitUsage;
+            }
+            continue;
+        }
+        rest << a;
+    }
+    if (rest.isEmpty()) {
+        std::fputs(usage().toLocal8Bit().constData(), stderr);
+        return ExitUsage;
+    }
+    const QString name = rest.takeFirst();
+    for (const Subcommand &c : subcommands()) {
+        if (c.name != name)
+            continue;
+        if (!ini.isEmpty()) {
+            if (!QFileInfo(ini).isFile()) {
+                printError(QStringLiteral("configuration file not found: ") + ini);
+                return ExitUsage;
+            }
+            core::gIniFile = QFileInfo(ini).absoluteFilePath();
+        } else {
+            core::gIniFile = core::ChooseIniFile();
+        }
+        core::gTrapErrors = core::ReadSettingFlag(QStringLiteral("Debug"), QStringLiteral("Trap Errors"));
+        return c.run(rest);
+    }
+    printError(QStringLiteral("unknown command: ") + name + QStringLiteral(" (see --help)"));
+    return ExitUsage;
+}
+
+} // namespace qly::cli

@@ -1,0 +1,226 @@
+#include "markup/LinkCommands.h"
+
+#include "core/Feedback.h"
+#include "core/Paths.h"
+#include "core/Settings.h"
+#include "core/Workspace.h"
+#include "documents/Document.h"
+#include "markup/Links.h"
+#include "platform/HTMLEdit.h"
+#include "platform/Prompts.h"
+
+namespace qly::markup {
+
+namespace {
+
+// Stand-ins for the shared tag primitives until they are merged.
+
+// Replaces the selection with `text` and leaves the caret behind it, as the
+// insertion primitive does for a single text; writes through setSelText.
+void insertMarkup(platform::HTMLEdit &edit, const QString &text)
+{
+    const int start = edit.SelStart();
+    const bool hadSelection = edit.SelLength() > 0;
+    edit.setDirty(true);
+    edit.setSelText(text);
+    if (core::ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Color HTML")))
+        edit.ColorHTML();
+    if (hadSelection)
+        edit.SetSel(start, start + int(text.size()));
+    edit.SetFocus();
+}
+
+// A double quote in front and behind unless already there.
+QString addQuotes(const QString &text)
+{
+    QString out = text;
+    if (!out.startsWith(u'"'))
+        out.prepend(u'"');
+    if (out.size() < 2 || !out.endsWith(u'"'))
+        out.append(u'"');
+    return out;
+}
+
+// Trimmed, less one leading and one trailing double quote.
+QString stripQuotes(const QString &text)
+{
+    QString out = text.trimmed();
+    if (out.startsWith(u'"'))
+        out.remove(0, 1);
+    if (out.endsWith(u'"'))
+        out.chop(1);
+    return out;
+}
+
+// Every `find` removed, without regard to case, in one pass.
+QString removeAll(const QString &text, const QString &find)
+{
+    QString out;
+    out.reserve(text.size());
+    qsizetype from = 0;
+    for (qsizetype hit; (hit = text.indexOf(find, from, Qt::CaseInsensitive)) >= 0; from = hit + find.size())
+        out.append(QStringView(text).mid(from, hit - from));
+    out.append(QStringView(text).mid(from));
+    return out;
+}
+
+// One absolute "file:" reference made relative to `base`; references on
+// another drive or root stay as they are.
+QString relativeReference(const QString &reference, const QString &base)
+{
+    const QString path = FileUrlToPath(reference);
+    if (!sameRoot(path, base))
+        return reference;
+    QString relative = RelativePath(path, base);
+    if (relative.isEmpty())
+        relative = core::FileNameOf(path);
+    return PathToFileUrl(relative);
+}
+
+void replaceWholeText(platform::HTMLEdit &edit, const QString &text)
+{
+    const int caret = edit.SelStart();
+    edit.PrepareUndo();
+    edit.setText(text);
+    edit.EndPUndo();
+    edit.setDirty(true);
+    edit.setSelStart(std::min(caret, edit.GetTextLength()));
+}
+
+} // namespace
+
+void EditAbsToRel_Click()
+{
+    documents::Document *doc = core::Workspace::CurrentDocument();
+    if (!doc)
+        return;
+    if (!core::FileExists(doc->LocalFileName)) {
+        platform::MsgBox(QStringLiteral("This document must be saved before relative links can be created."),
+                         platform::Buttons::Ok, platform::Icon::Exclamation,
+                         QStringLiteral("Cannot Create Relative Links"));
+        return;
+    }
+    platform::HTMLEdit &edit = doc->txtDoc();
+    const QString base = doc->LocalFileName;
+    if (edit.SelLength() > 0) {
+        edit.setSelText(relativeReference(edit.SelText(), base));
+        edit.setDirty(true);
+        return;
+    }
+    if (platform::MsgBox(QStringLiteral("Would you like to change all the absolute links in this document to relative links ?"),
+                         platform::Buttons::YesNo, platform::Icon::Question)
+        != platform::Answer::Yes)
+        return;
+
+    core::BeginWait();
+    const QString text = edit.Text();
+    const QString marker = QStringLiteral("\"file://");
+    QString out;
+    out.reserve(text.size());
+    qsizetype from = 0;
+    bool changed = false;
+    for (qsizetype hit; (hit = text.indexOf(marker, from, Qt::CaseInsensitive)) >= 0;) {
+        const qsizetype valueStart = hit + 1;
+        const qsizetype close = text.indexOf(u'"', valueStart);
+        if (close < 0)
+            break;   // an unclosed reference: left as it is
+        const QString value = text.mid(valueStart, close - valueStart);
+        const QString converted = relativeReference(value, base);
+        out.append(QStringView(text).mid(from, valueStart - from));
+        out.append(converted);
+        changed = changed || converted != value;
+        from = close;
+    }
+    out.append(QStringView(text).mid(from));
+    if (changed)
+        replaceWholeText(edit, out);
+    core::EndWait();
+}
+
+void EditRelToAbs_Click()
+{
+    documents::Document *doc = core::Workspace::CurrentDocument();
+    if (!doc)
+        return;
+    if (!core::FileExists(doc->LocalFileName)) {
+        platform::MsgBox(QStringLiteral("Cannot convert the link in an unsaved document."));
+        return;
+    }
+    platform::HTMLEdit &edit = doc->txtDoc();
+    if (edit.SelText().isEmpty()) {
+        platform::MsgBox(QStringLiteral("Please highlight the reference you wish to change."));
+        return;
+    }
+    const QString shown = doc->ShowFileName.isEmpty() ? doc->LocalFileName : doc->ShowFileName;
+    const QString dir = core::DirectoryOf(shown);
+    QString sel = stripQuotes(edit.SelText());
+    if (sel.startsWith(QLatin1String("file:///"), Qt::CaseInsensitive))
+        sel = FileUrlToPath(sel);
+    if (sel.contains(u'|') || sel.contains(u':')) {
+        platform::MsgBox(QStringLiteral("That is not a relative reference.  Found a '|' or ':' character."),
+                         platform::Buttons::Ok, platform::Icon::None, QStringLiteral("Not A Relative Reference"));
+        return;
+    }
+    const QString resolved = ResolveRelativePath(sel, dir);
+    if (resolved.isEmpty()) {
+        platform::MsgBox(QStringLiteral("Couldn't convert this reference."));
+        return;
+    }
+    insertMarkup(edit, addQuotes(PathToFileUrl(resolved)));
+}
+
+QString removeTags(const QString &text, const QString &mode, const CancelCheck &cancelled, bool *completed)
+{
+    const bool links = mode.compare(QLatin1String("LINK"), Qt::CaseInsensitive) == 0;
+    const QString find = links ? QStringLiteral("<A") : QStringLiteral("<");
+    const QString what = links ? QStringLiteral("Removing links... ") : QStringLiteral("Removing HTML tags... ");
+    const qsizetype n = text.size();
+    QString out;
+    out.reserve(n);
+    qsizetype from = 0;
+    int shown = -1;
+    bool done = true;
+    for (qsizetype hit; (hit = text.indexOf(find, from, Qt::CaseInsensitive)) >= 0;) {
+        const qsizetype close = text.indexOf(u'>', hit + find.size());
+        if (close < 0)
+            break;   // an unclosed tag at the end stays
+        out.append(QStringView(text).mid(from, hit - from));
+        from = close + 1;
+        const int percent = int(from * 100 / std::max<qsizetype>(n, 1));
+        if (percent != shown) {
+            shown = percent;
+            core::ShowStatus(what + QString::number(percent) + u'%');
+            core::DoEvents();
+            if (cancelled && cancelled()) {
+                done = false;
+                break;
+            }
+        }
+    }
+    out.append(QStringView(text).mid(from));
+    if (links)
+        out = removeAll(out, QStringLiteral("</A>"));
+    if (completed)
+        *completed = done;
+    return out;
+}
+
+bool RemoveMarkup(const QString &mode, const CancelCheck &cancelled)
+{
+    documents::Document *doc = core::Workspace::CurrentDocument();
+    if (!doc)
+        return false;
+    platform::HTMLEdit &edit = doc->txtDoc();
+    core::BeginWait();
+    bool completed = true;
+    const QString text = edit.Text();
+    const QString result = removeTags(text, mode, cancelled, &completed);
+    if (result != text)
+        replaceWholeText(edit, result);
+    edit.ColorHTML();
+    core::EndWait();
+    core::ShowStatus(completed ? QString() : QStringLiteral("Cancelled."));
+    return completed;
+}
+
+} // namespace qly::markup
