@@ -6,6 +6,7 @@
 #include "core/Workspace.h"
 #include "documents/Document.h"
 #include "markup/CharacterCodes.h"
+#include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
@@ -15,34 +16,6 @@ namespace {
 
 QDateTime g_lastKey;
 
-// Inserts `startText` + `endText` at the current document's selection and
-// places the selection as the shared insertion primitive does (the caret
-// between a pair typed on nothing, the new text selected when it replaced a
-// selection, else the caret behind it). Stands in for InsertMarkup of the tag
-// primitives until those are merged; it writes through setSelText directly.
-void insertMarkup(const QString &startText, const QString &endText)
-{
-    documents::Document *doc = core::Workspace::CurrentDocument();
-    if (!doc)
-        return;
-    platform::HTMLEdit &edit = doc->txtDoc();
-    edit.setDirty(true);
-    const int start = edit.SelStart();
-    const bool hadSelection = edit.SelLength() > 0;
-    const bool emptyPair = !startText.isEmpty() && !endText.isEmpty() && !hadSelection;
-    edit.setSelText(startText + endText);
-    if (core::ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Color HTML")))
-        edit.ColorHTML();
-    const int a = int(startText.size());
-    const int b = int(endText.size());
-    if (emptyPair)
-        edit.SetSel(start + a, start + a);
-    else if (hadSelection)
-        edit.SetSel(start, start + a + b);
-    else
-        edit.SetSel(start + a + b, start + a + b);
-    edit.SetFocus();
-}
 
 } // namespace
 
@@ -54,7 +27,7 @@ void TranslateKey(int &keyAscii)
         const QString typed = QString::fromUcs4(&cp, 1);
         const QString result = TranslateOneCharacter(typed);
         if (result.compare(typed, Qt::CaseInsensitive) != 0) {
-            insertMarkup(result, QString());
+            InsertMarkup(result, QString());
             keyAscii = 0;
         }
     }
@@ -132,7 +105,7 @@ void InsertEntity(const QString &html)
     documents::Document *doc = core::Workspace::CurrentDocument();
     if (!doc)
         return;
-    insertMarkup(html, doc->txtDoc().SelText());
+    InsertMarkup(html, doc->txtDoc().SelText());
 }
 
 } // namespace qly::markup

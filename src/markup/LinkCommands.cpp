@@ -6,63 +6,14 @@
 #include "core/Workspace.h"
 #include "documents/Document.h"
 #include "markup/Links.h"
+#include "markup/TagPrimitives.h"
+#include "markup/TextOps.h"
 #include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
 namespace qly::markup {
 
 namespace {
-
-// Stand-ins for the shared tag primitives until they are merged.
-
-// Replaces the selection with `text` and leaves the caret behind it, as the
-// insertion primitive does for a single text; writes through setSelText.
-void insertMarkup(platform::HTMLEdit &edit, const QString &text)
-{
-    const int start = edit.SelStart();
-    const bool hadSelection = edit.SelLength() > 0;
-    edit.setDirty(true);
-    edit.setSelText(text);
-    if (core::ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Color HTML")))
-        edit.ColorHTML();
-    if (hadSelection)
-        edit.SetSel(start, start + int(text.size()));
-    edit.SetFocus();
-}
-
-// A double quote in front and behind unless already there.
-QString addQuotes(const QString &text)
-{
-    QString out = text;
-    if (!out.startsWith(u'"'))
-        out.prepend(u'"');
-    if (out.size() < 2 || !out.endsWith(u'"'))
-        out.append(u'"');
-    return out;
-}
-
-// Trimmed, less one leading and one trailing double quote.
-QString stripQuotes(const QString &text)
-{
-    QString out = text.trimmed();
-    if (out.startsWith(u'"'))
-        out.remove(0, 1);
-    if (out.endsWith(u'"'))
-        out.chop(1);
-    return out;
-}
-
-// Every `find` removed, without regard to case, in one pass.
-QString removeAll(const QString &text, const QString &find)
-{
-    QString out;
-    out.reserve(text.size());
-    qsizetype from = 0;
-    for (qsizetype hit; (hit = text.indexOf(find, from, Qt::CaseInsensitive)) >= 0; from = hit + find.size())
-        out.append(QStringView(text).mid(from, hit - from));
-    out.append(QStringView(text).mid(from));
-    return out;
-}
 
 // One absolute "file:" reference made relative to `base`; references on
 // another drive or root stay as they are.
@@ -153,7 +104,7 @@ void EditRelToAbs_Click()
     }
     const QString shown = doc->ShowFileName.isEmpty() ? doc->LocalFileName : doc->ShowFileName;
     const QString dir = core::DirectoryOf(shown);
-    QString sel = stripQuotes(edit.SelText());
+    QString sel = StripQuotes(edit.SelText());
     if (sel.startsWith(QLatin1String("file:///"), Qt::CaseInsensitive))
         sel = FileUrlToPath(sel);
     if (sel.contains(u'|') || sel.contains(u':')) {
@@ -166,7 +117,7 @@ void EditRelToAbs_Click()
         platform::MsgBox(QStringLiteral("Couldn't convert this reference."));
         return;
     }
-    insertMarkup(edit, addQuotes(PathToFileUrl(resolved)));
+    InsertMarkup(AddQuotes(PathToFileUrl(resolved)), QString(), true, edit);
 }
 
 QString removeTags(const QString &text, const QString &mode, const CancelCheck &cancelled, bool *completed)
@@ -199,7 +150,7 @@ QString removeTags(const QString &text, const QString &mode, const CancelCheck &
     }
     out.append(QStringView(text).mid(from));
     if (links)
-        out = removeAll(out, QStringLiteral("</A>"));
+        out = ReplaceText(out, QStringLiteral("</A>"), QString());
     if (completed)
         *completed = done;
     return out;
