@@ -5,6 +5,7 @@
 #include "core/TextCodec.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
+#include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
@@ -20,9 +21,7 @@ namespace {
 
 void insert(Document &document, const QString &text)
 {
-    platform::HTMLEdit &edit = document.txtDoc();
-    edit.setSelText(text);
-    edit.setDirty(true);
+    markup::InsertMarkup(text, QString(), true, document.txtDoc());
 }
 
 QString linkMarkup(Document &document, const QString &path)
