@@ -1,6 +1,8 @@
 #include "core/ui/Commands.h"
 
+#include "core/Paths.h"
 #include "core/Workspace.h"
+#include "core/ui/frmMe.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "core/ui/MainWindow.h"
@@ -20,6 +22,8 @@
 #include "platform/HTMLEdit.h"
 
 #include <QAction>
+#include <QDesktopServices>
+#include <QUrl>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -133,6 +137,14 @@ void registerCommands(CommandTable &t, frmMain &w)
     // Tools
     t.bind(N("ToolsOptions"), [&w] { ShowOptions(w); });
     t.bind(N("EditBrowsers"), [&w] { ShowOptions(w, OptionsTab::ExternalBrowsers); });
+
+    // Help
+    const auto openHelp = [] {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(JoinPath(ProgramDirectory(), QStringLiteral("help/index.html"))));
+    };
+    t.bind(N("HelpContents"), openHelp);
+    t.bind(N("HelpSearch"), openHelp);
+    t.bind(N("HelpAbout"), [&w] { frmMe(&w); });
 
     // Window
     t.bind(N("mnuWindow0"), [&w] { w.mdiArea()->cascadeSubWindows(); });

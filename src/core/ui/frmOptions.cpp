@@ -22,7 +22,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTableWidget>
+#include "publish/ui/AliasEditor.h"
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -160,6 +160,9 @@ void frmOptions::showBrowsers()
 void frmOptions::accept()
 {
     m_model.commit();
+    // The aliases go to their own file; a failure has been told and the dialog stays.
+    if (!m_aliases->save())
+        return;
     QDialog::accept();
 }
 

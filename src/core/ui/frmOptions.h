@@ -14,8 +14,11 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QTabWidget;
-class QTableWidget;
 class QToolButton;
+
+namespace qly::publish::ui {
+class AliasEditor;
+}
 
 namespace qly::core::ui {
 
@@ -82,7 +85,7 @@ private:
     QGroupBox *m_colourFrame = nullptr;
     QListWidget *m_browsers = nullptr;
     QPushButton *m_deleteBrowser = nullptr;
-    QTableWidget *m_aliases = nullptr;
+    publish::ui::AliasEditor *m_aliases = nullptr;
 };
 
 // Tools, Options...: the dialog over the main window, opened on `tab`.

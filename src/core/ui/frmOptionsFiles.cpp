@@ -14,7 +14,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTableWidget>
+#include "publish/ui/AliasEditor.h"
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -120,12 +120,9 @@ QWidget *frmOptions::buildBrowsers()
     addChecks(p, OptionsTab::ExternalBrowsers, QLatin1String("Publishing"));
     m_pubExt = combo(QStringLiteral("cmbExtension"), OptionsModel::publishExtensions(), true);
     p->addLayout(row(QStringLiteral("Extension of published documents:"), m_pubExt));
-    m_aliases = new QTableWidget(0, 2);
-    m_aliases->setObjectName(QStringLiteral("grdAliases"));
-    m_aliases->setHorizontalHeaderLabels({QStringLiteral("Word"), QStringLiteral("Replacement")});
-    m_aliases->horizontalHeader()->setStretchLastSection(true);
-    m_aliases->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_aliases->setToolTip(QStringLiteral("The words replaced on publishing are kept in aliases.inf"));
+    m_aliases = new publish::ui::AliasEditor;
+    m_aliases->setObjectName(QStringLiteral("aliasArea"));
+    m_aliases->load();
     p->addWidget(m_aliases);
     v->addWidget(publishing);
 

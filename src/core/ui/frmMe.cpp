@@ -1,0 +1,18 @@
+#include "core/ui/frmMe.h"
+
+#include "core/Globals.h"
+
+#include <QMessageBox>
+
+namespace qly::core::ui {
+
+void frmMe(QWidget *parent)
+{
+    QMessageBox::about(parent, QStringLiteral("About Quillery"),
+                       QStringLiteral("<h3>") + versionCaption()
+                           + QStringLiteral("</h3><p>An editor for people who write HTML by hand.</p>"
+                                            "<p>Built with Qt %1 and QScintilla.</p>")
+                                 .arg(QString::fromLatin1(qVersion())));
+}
+
+} // namespace qly::core::ui
