@@ -1,0 +1,225 @@
+// The main window's command table, toolbars, status panels and resource
+// manager, on the real window offscreen.
+#include "core/Globals.h"
+#include "core/Paths.h"
+#include "core/Settings.h"
+#include "core/ui/CommandCatalogue.h"
+#include "core/ui/CommandTable.h"
+#include "core/ui/MainWindow.h"
+#include "core/ui/ResourceManager.h"
+#include "core/ui/StatusPanels.h"
+#include "core/ui/Toolbars.h"
+#include "core/ui/frmCustomize.h"
+#include "documents/Document.h"
+#include "documents/DocumentList.h"
+#include "platform/HTMLEdit.h"
+#include "support/ScriptedPrompts.h"
+#include "support/TestEnv.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QtTest>
+
+using namespace qly;
+using core::ui::frmMain;
+
+class tst_Toolbars : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void everyLaidOutNameIsACommand();
+    void viewEntriesFollowAndStoreTheBands();
+    void customisedLayoutSurvivesARestart();
+    void colouringPanelsWriteAndRecolour();
+    void resourceManagerFollowsItsKeys();
+    void popupAndDateTimeReachTheDocument();
+
+private:
+    std::unique_ptr<test::TestEnv> m_env;
+    std::unique_ptr<test::ScriptedPrompts> m_prompts;
+    std::unique_ptr<frmMain> m_main;
+    void newMain();
+};
+
+void tst_Toolbars::newMain()
+{
+    m_main = std::make_unique<frmMain>();
+    core::Workspace::setInstance(m_main.get());
+    m_main->resize(1000, 700);
+    m_main->show();
+}
+
+void tst_Toolbars::init()
+{
+    m_env = std::make_unique<test::TestEnv>();
+    m_prompts = std::make_unique<test::ScriptedPrompts>();
+    newMain();
+}
+
+void tst_Toolbars::cleanup()
+{
+    if (m_main) {
+        for (documents::Document *d : m_main->documentList())
+            m_main->unloadDocument(d);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    m_main.reset();
+    m_prompts.reset();
+    m_env.reset();
+}
+
+void tst_Toolbars::everyLaidOutNameIsACommand()
+{
+    core::ui::CommandTable &t = m_main->commands();
+    QCOMPARE(t.names().size(), qsizetype(core::ui::commandCatalogue().size()));
+    for (const core::ui::MenuLayout &menu : core::ui::menuLayout()) {
+        for (const QString &name : menu.commands) {
+            if (!name.isEmpty() && !name.startsWith(u'>') && name != QLatin1String("<"))
+                QVERIFY2(t.contains(name), qPrintable(name));
+        }
+    }
+    for (const core::ui::BandLayout &band : core::ui::toolbarLayout()) {
+        QVERIFY(m_main->toolbars().band(band.name));
+        for (const QString &tool : band.tools) {
+            if (!tool.isEmpty() && tool != QLatin1String("cmbApplyStyle"))
+                QVERIFY2(t.contains(core::ui::toolCommand(tool)), qPrintable(tool));
+        }
+    }
+    // A tool and its menu entry are one command; a command with no work shows disabled.
+    QCOMPARE(core::ui::toolCommand(QStringLiteral("tlbSave")), QStringLiteral("mnuSave"));
+    QVERIFY(m_main->toolbars().band(QStringLiteral("File"))->actions().contains(t.action(QStringLiteral("mnuSave"))));
+    QVERIFY(!t.action(QStringLiteral("InsertAnimation"))->isEnabled());
+    QVERIFY(!t.run(QStringLiteral("InsertAnimation")));
+}
+
+void tst_Toolbars::viewEntriesFollowAndStoreTheBands()
+{
+    core::ui::CommandTable &t = m_main->commands();
+    QAction *insertView = t.action(QStringLiteral("ViewTB2"));
+    QToolBar *insert = m_main->toolbars().band(QStringLiteral("Insert"));
+    QVERIFY(insertView->isChecked());
+    insertView->trigger();
+    QVERIFY(!insert->isVisible());
+    QCOMPARE(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Insert")), QStringLiteral("No"));
+    insertView->trigger();
+    QVERIFY(insert->isVisible());
+    QCOMPARE(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Insert")), QStringLiteral("Yes"));
+    // A band hidden another way unchecks its entry.
+    m_main->toolbars().band(QStringLiteral("Style"))->hide();
+    QVERIFY(!t.action(QStringLiteral("ViewTB4"))->isChecked());
+}
+
+void tst_Toolbars::customisedLayoutSurvivesARestart()
+{
+    const QString file = core::JoinPath(core::ProgramDirectory(), QStringLiteral("Quillery.tb"));
+    m_main->LoadToolbars();   // no file: the design layout
+    QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")),
+             m_main->toolbars().allTools(QStringLiteral("Properties")));
+
+    {
+        core::ui::frmCustomize dialog(m_main->toolbars());
+        auto *band = dialog.findChild<QComboBox *>(QStringLiteral("cmbBand"));
+        auto *tools = dialog.findChild<QListWidget *>(QStringLiteral("lstTools"));
+        band->setCurrentText(QStringLiteral("Properties"));
+        tools->item(0)->setCheckState(Qt::Unchecked);   // tlbHead1 goes
+        tools->setCurrentRow(2);                        // tlbHead3 moves up
+        dialog.findChild<QPushButton *>(QStringLiteral("cmdUp"))->click();
+        dialog.apply();
+    }
+    const QStringList shown = m_main->toolbars().shownTools(QStringLiteral("Properties"));
+    QCOMPARE(shown.mid(0, 2), (QStringList{QStringLiteral("tlbHead3"), QStringLiteral("tlbHead2")}));
+    QVERIFY(!shown.contains(QStringLiteral("tlbHead1")));
+    m_main->toolbars().band(QStringLiteral("Text Property"))->hide();
+
+    m_main->SaveMainWindowState();
+    QVERIFY(QFile::exists(file));
+    m_main.reset();
+    newMain();
+    m_main->LoadToolbars();
+    QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")), shown);
+    QVERIFY(!m_main->toolbars().band(QStringLiteral("Text Property"))->isVisibleTo(m_main.get()));
+    QVERIFY(!m_main->commands().action(QStringLiteral("ViewTB1"))->isChecked());
+
+    // A damaged file leaves the design layout.
+    QFile::resize(file, 10);
+    newMain();
+    m_main->LoadToolbars();
+    QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")),
+             m_main->toolbars().allTools(QStringLiteral("Properties")));
+}
+
+void tst_Toolbars::colouringPanelsWriteAndRecolour()
+{
+    core::ui::StatusPanels &panels = m_main->statusPanels();
+    // No document: the settings are written all the same.
+    QTest::mouseClick(panels.panel(QStringLiteral("SyntaxColor")), Qt::LeftButton);
+    QCOMPARE(core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Quick Color")), QStringLiteral("1"));
+    QCOMPARE(core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Color HTML")), QStringLiteral("Yes"));
+    QVERIFY(!panels.panel(QStringLiteral("SyntaxColor"))->isEnabled());
+
+    const QString file = m_env->write(QStringLiteral("c.html"), "<B>x</B>");
+    QVERIFY(documents::OpenDocumentFile(file));
+    platform::HTMLEdit &e = m_main->activeDocument()->txtDoc();
+    QTest::mouseClick(panels.panel(QStringLiteral("TagColor")), Qt::LeftButton);
+    QCOMPARE(e.ColorMode(), platform::ColorEntireTags);
+    QCOMPARE(core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Quick Color")), QStringLiteral("0"));
+    // The panel of the mode in force takes no click.
+    QTest::mouseClick(panels.panel(QStringLiteral("TagColor")), Qt::LeftButton);
+    QCOMPARE(core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Quick Color")), QStringLiteral("0"));
+    QTest::mouseClick(panels.panel(QStringLiteral("SyntaxColor")), Qt::LeftButton);
+    QCOMPARE(e.ColorMode(), platform::ColorTagSyntax);
+    QCOMPARE(e.Text(), QStringLiteral("<B>x</B>"));
+}
+
+void tst_Toolbars::resourceManagerFollowsItsKeys()
+{
+    core::WriteSetting(QStringLiteral("Display"), QStringLiteral("Link Checker"), QStringLiteral("YES"));
+    m_main->DrawMainScreen();
+    QVERIFY(m_main->resourceManager().isVisibleTo(m_main.get()));
+    QVERIFY(m_main->commands().action(QStringLiteral("ViewResMan"))->isChecked());
+    m_main->commands().action(QStringLiteral("ViewResMan"))->trigger();
+    QVERIFY(!m_main->resourceManager().isVisibleTo(m_main.get()));
+    QCOMPARE(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Link Checker")), QStringLiteral("No"));
+    QStringList tabs;
+    for (int i = 0; i < m_main->resourceManager().tabs()->count(); ++i)
+        tabs << m_main->resourceManager().tabs()->tabText(i);
+    QCOMPARE(tabs, (QStringList{QStringLiteral("Files"), QStringLiteral("Website"), QStringLiteral("Tags"),
+                                QStringLiteral("Bookmarks")}));
+
+    core::WriteSetting(QStringLiteral("Extra File Types"), QStringLiteral("Scripts"), QStringLiteral("*.js;*.vbs"));
+    m_main->resourceManager().InitializeFileList();
+    QComboBox *types = m_main->resourceManager().fileTypes();
+    QCOMPARE(types->itemText(1), QStringLiteral("Graphics (*.jpg;*.gif)"));
+    QCOMPARE(types->itemText(types->count() - 1), QStringLiteral("Scripts (*.js;*.vbs)"));
+
+    // At the close the panel's state is stored.
+    m_main->StoreDisplayState();
+    QVERIFY(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Link Checker Width")).toInt() > 0);
+    QCOMPARE(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Chars List")), QStringLiteral("No"));
+}
+
+void tst_Toolbars::popupAndDateTimeReachTheDocument()
+{
+    QMenu *popup = m_main->popupMenu();
+    QCOMPARE(popup->title(), QStringLiteral("Quillery"));
+    QVERIFY(popup->findChild<QMenu *>(QStringLiteral("mnuPopupTags")));
+    QVERIFY(popup->findChild<QMenu *>(QStringLiteral("mnuPopupText")));
+
+    const QString file = m_env->write(QStringLiteral("d.html"), "");
+    QVERIFY(documents::OpenDocumentFile(file));
+    QTest::mouseClick(m_main->statusPanels().panel(QStringLiteral("DateTime")), Qt::LeftButton);
+    const QString text = m_main->activeDocument()->txtDoc().Text();
+    QVERIFY2(text.contains(QString::number(QDate::currentDate().year())), qPrintable(text));
+}
+
+QTEST_MAIN(tst_Toolbars)
+#include "tst_toolbars.moc"
