@@ -162,6 +162,20 @@ QStringList ProfileFile::sectionNames() const
     return out;
 }
 
+void ProfileFile::appendSection(std::vector<Line> &lines, const QString &nl, const QString &section,
+                                const std::vector<Line> &body)
+{
+    // A new section stands at the end, after one blank line.
+    if (!lines.empty()) {
+        if (lines.back().ending.isEmpty())
+            lines.back().ending = nl;
+        if (!lines.back().text.trimmed().isEmpty())
+            lines.push_back({QString(), nl});
+    }
+    lines.push_back({u'[' + section + u']', nl});
+    lines.insert(lines.end(), body.begin(), body.end());
+}
+
 bool ProfileFile::setValue(const QString &section, const QString &key, const QString &value)
 {
     if (value.isEmpty())
@@ -172,14 +186,7 @@ bool ProfileFile::setValue(const QString &section, const QString &key, const QSt
     const QString entry = key + u'=' + value;
     SectionRange r = findSection(lines, section);
     if (r.header < 0) {
-        if (!lines.empty()) {
-            if (lines.back().ending.isEmpty())
-                lines.back().ending = nl;
-            if (!lines.back().text.trimmed().isEmpty())
-                lines.push_back({QString(), nl});
-        }
-        lines.push_back({u'[' + section + u']', nl});
-        lines.push_back({entry, nl});
+        appendSection(lines, nl, section, {Line{entry, nl}});
         return save(lines);
     }
     qsizetype lastContent = r.header;
@@ -231,14 +238,7 @@ bool ProfileFile::setSection(const QString &section, const QStringList &entries)
     if (r.header < 0) {
         if (body.empty())
             return true;
-        if (!lines.empty()) {
-            if (lines.back().ending.isEmpty())
-                lines.back().ending = nl;
-            if (!lines.back().text.trimmed().isEmpty())
-                lines.push_back({QString(), nl});
-        }
-        lines.push_back({u'[' + section + u']', nl});
-        lines.insert(lines.end(), body.begin(), body.end());
+        appendSection(lines, nl, section, body);
         return save(lines);
     }
     // Keep the blank lines that separate this section from the next one.

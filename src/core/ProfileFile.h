@@ -39,6 +39,8 @@ private:
 
     bool load(std::vector<Line> &lines, QString &newline) const;
     bool save(const std::vector<Line> &lines) const;
+    static void appendSection(std::vector<Line> &lines, const QString &nl, const QString &section,
+                              const std::vector<Line> &body);
 
     QString m_path;
 };
