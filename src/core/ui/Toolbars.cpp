@@ -41,6 +41,9 @@ Toolbars::Toolbars(QMainWindow &window, CommandTable &commands)
     m_cmbApplyStyle->setMinimumContentsLength(12);
 
     for (const BandLayout &layout : toolbarLayout()) {
+        // Three rows by design: file tools; text and insert; format, style and browser.
+        if (layout.name == QLatin1String("Text Property") || layout.name == QLatin1String("Properties"))
+            window.addToolBarBreak(Qt::TopToolBarArea);
         auto *bar = new QToolBar(layout.name, &window);
         bar->setObjectName(layout.name);
         bar->setIconSize(QSize(20, 20));
