@@ -128,6 +128,10 @@ documents::Document *frmMain::makeDocumentWindow(bool explorerInternal)
     sub->resize(std::max(400, area.width() * 3 / 4), std::max(300, area.height() * 3 / 4));
     sub->show();
     m_mdi->setActiveSubWindow(sub);
+    QList<QKeySequence> keys;
+    for (const QString &name : m_commands->names())
+        keys << m_commands->action(name)->shortcut();
+    doc->edit()->releaseKeys(keys);
     connect(doc, &DocumentWindow::popupRequested, this, [this](const QPoint &at) { m_mnuPopupHd->popup(at); });
     return doc;
 }

@@ -6,6 +6,8 @@
 #include "documents/ui/EditColors.h"
 #include "documents/ui/PrintSetup.h"
 
+#include <Qsci/qscicommand.h>
+#include <Qsci/qscicommandset.h>
 #include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciprinter.h>
 #include <Qsci/qsciscintilla.h>
@@ -463,6 +465,22 @@ bool ScintillaEdit::PrintMe(const QString &jobName)
     printer.printRange(m_sci);
     core::EndWait();
     return true;
+}
+
+void ScintillaEdit::releaseKeys(const QList<QKeySequence> &keys)
+{
+    QsciCommandSet *commands = m_sci->standardCommands();
+    for (const QKeySequence &key : keys) {
+        if (key.isEmpty())
+            continue;
+        const int combined = key[0].toCombined();
+        while (QsciCommand *command = commands->boundTo(combined)) {
+            if (command->key() == combined)
+                command->setKey(0);
+            if (command->alternateKey() == combined)
+                command->setAlternateKey(0);
+        }
+    }
 }
 
 void ScintillaEdit::SetFocus()

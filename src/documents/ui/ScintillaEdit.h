@@ -3,6 +3,8 @@
 #include "core/TextCodec.h"
 #include "platform/HTMLEdit.h"
 
+#include <QKeySequence>
+#include <QList>
 #include <QObject>
 
 class QsciScintilla;
@@ -62,6 +64,9 @@ public:
     void SetFocus() override;
 
     core::TextEncoding encoding() const { return m_encoding; }
+    // Gives keys that the editor's commands use back to those commands:
+    // the control's own binding of each is dropped.
+    void releaseKeys(const QList<QKeySequence> &keys);
 
 signals:
     // The caret or the selection moved.

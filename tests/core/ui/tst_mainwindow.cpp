@@ -12,6 +12,7 @@
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
+#include <Qsci/qscicommandset.h>
 #include <Qsci/qsciscintilla.h>
 
 #include <QLabel>
@@ -103,6 +104,11 @@ void tst_MainWindow::openedFileShowsItsTextAndPosition()
     doc->txtDoc().setSelStart(12);
     QCOMPARE(m_main->statusPanels().panel(QStringLiteral("Line"))->text(), QStringLiteral("Ln:2 Chr:5"));
     QCOMPARE(documents::SessionEntry(*doc).section(u',', 0, 1), file + QStringLiteral(",0"));
+    // Keys of the editor's commands reach the commands, not the control's own bindings.
+    QsciCommandSet *own = doc->edit()->view()->standardCommands();
+    QVERIFY(!own->boundTo(QKeySequence(QKeySequence::Underline)[0].toCombined()));
+    QVERIFY(!own->boundTo(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L)[0].toCombined()));
+    QVERIFY(own->boundTo(QKeySequence(Qt::CTRL | Qt::Key_L)[0].toCombined()));
 
     // A missing file: the box, and no window.
     QVERIFY(!documents::OpenDocumentFile(m_env->path(QStringLiteral("gone.html"))));
