@@ -20,7 +20,7 @@ int publishCommand(const QStringList &arguments)
     // A missing source is refused before anything is written, so the target
     // stays as it was.
     if (!core::FileExists(source)) {
-        platform::MsgBox(QStringLiteral("File not found.") + QStringLiteral(": ") + source, platform::Buttons::Ok,
+        platform::MsgBox(source + QStringLiteral(": File not found."), platform::Buttons::Ok,
                          platform::Icon::Exclamation, QStringLiteral("quillery-cli"));
         return ExitFailed;
     }
