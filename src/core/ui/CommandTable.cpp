@@ -15,7 +15,9 @@ QAction *CommandTable::declare(const QString &name, const QString &caption, cons
     auto *action = new QAction(caption, this);
     action->setObjectName(name);
     action->setShortcut(key);
+    // Shown in the status bar while the pointer rests on a tool or an entry.
     action->setToolTip(QString(caption).remove(u'&').remove(QStringLiteral("...")));
+    action->setStatusTip(action->toolTip());
     action->setEnabled(false);
     m_actions.insert(name, action);
     m_order << name;
