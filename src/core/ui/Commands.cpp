@@ -18,6 +18,7 @@
 #include "markup/ui/frmEntities.h"
 #include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
+#include "publish/ui/PreviewCommands.h"
 
 #include <QAction>
 #include <QMdiArea>
@@ -133,6 +134,7 @@ void registerCommands(CommandTable &t, frmMain &w)
     // Tools
     t.bind(N("ToolsOptions"), [&w] { ShowOptions(w); });
     t.bind(N("EditBrowsers"), [&w] { ShowOptions(w, OptionsTab::ExternalBrowsers); });
+    publish::ui::InstallPreviewCommands(t, w);
 
     // Window
     t.bind(N("mnuWindow0"), [&w] { w.mdiArea()->cascadeSubWindows(); });
