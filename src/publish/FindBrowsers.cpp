@@ -129,6 +129,8 @@ QStringList listedBrowsers()
 
 QString DesktopEntryExecutable(const QString &desktopFile)
 {
+    if (desktopFile.isEmpty())
+        return QString();
     QFile file(desktopFile);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return QString();
