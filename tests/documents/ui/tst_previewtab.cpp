@@ -25,7 +25,7 @@ class tst_PreviewTab : public QObject
     Q_OBJECT
 private slots:
     void previewShowsTheEditedText();
-    void relativeImageLinksAndSounds();
+    void relativeImageAndLinkTo();
 };
 
 void tst_PreviewTab::previewShowsTheEditedText()
@@ -59,8 +59,8 @@ void tst_PreviewTab::previewShowsTheEditedText()
 }
 
 // The edited page shows beside its image; "Link To:" links the page shown;
-// a sound asks first; the page goes when the window closes.
-void tst_PreviewTab::relativeImageLinksAndSounds()
+// the page goes when the window closes.
+void tst_PreviewTab::relativeImageAndLinkTo()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
@@ -121,15 +121,6 @@ void tst_PreviewTab::relativeImageLinksAndSounds()
     doc->txtDoc().SetSel(at, at + 6);
     doc->findChild<QPushButton *>(QStringLiteral("cmdLinkTo"))->click();
     QVERIFY(doc->txtDoc().Text().contains(QStringLiteral("<A HREF=\"more/next page.htm\">Edited</A> heading")));
-
-    // A sound asks first; "No" stays on the page.
-    prompts.answer(platform::Answer::No);
-    const QUrl before = view->url();
-    view->setUrl(QUrl::fromLocalFile(env.path(QStringLiteral("site/ring.wav"))));
-    QTRY_COMPARE(prompts.shown.size(), 1);
-    QCOMPARE(prompts.shown[0].title, QStringLiteral("That's not such a great idea at the moment :("));
-    QTest::qWait(200);
-    QCOMPARE(view->url(), before);
 
     const QString scout = doc->scoutFile();
     main.unloadDocument(doc);
