@@ -20,6 +20,7 @@
 #include "markup/ui/frmEntities.h"
 #include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
+#include "publish/ui/PreviewCommands.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -137,6 +138,7 @@ void registerCommands(CommandTable &t, frmMain &w)
     // Tools
     t.bind(N("ToolsOptions"), [&w] { ShowOptions(w); });
     t.bind(N("EditBrowsers"), [&w] { ShowOptions(w, OptionsTab::ExternalBrowsers); });
+    publish::ui::InstallPreviewCommands(t, w);
 
     // Help
     const auto openHelp = [] {

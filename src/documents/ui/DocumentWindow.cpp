@@ -1,19 +1,29 @@
 #include "documents/ui/DocumentWindow.h"
 
+#include "core/Feedback.h"
 #include "core/Globals.h"
+#include "core/Paths.h"
 #include "core/ui/Twips.h"
 #include "core/Workspace.h"
 #include "documents/DocumentList.h"
 #include "documents/DroppedFile.h"
 #include "documents/FileRegistry.h"
+#include "documents/TempFiles.h"
 #include "documents/ui/FileDrops.h"
+#include "documents/ui/ScoutPage.h"
 #include "documents/ui/ScintillaEdit.h"
 #include "markup/CharacterCommands.h"
+#include "markup/Links.h"
+#include "markup/Selection.h"
+#include "markup/TagPrimitives.h"
+#include "markup/TextOps.h"
 #include "platform/Prompts.h"
+#include "publish/Preview.h"
 
 #include <Qsci/qsciscintilla.h>
 
 #include <QCloseEvent>
+#include <QFile>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -67,6 +77,7 @@ DocumentWindow::DocumentWindow(QWidget *parent)
 
 DocumentWindow::~DocumentWindow()
 {
+    removeScoutFile();
     if (filenum != 0)
         FileRegistry::instance().ForgetFile(filenum);
 }
@@ -86,11 +97,11 @@ void DocumentWindow::buildPreviewPage(QWidget *page)
         connect(b, &QToolButton::clicked, this, slot);
         row->addWidget(b);
     };
-    addButton("cmdBack", tr("Back"), [this] { browser()->back(); });
-    addButton("cmdForward", tr("Forward"), [this] { browser()->forward(); });
-    addButton("cmdStop", tr("Stop"), [this] { browser()->stop(); });
-    addButton("cmdRefresh", tr("Refresh"), [this] { browser()->reload(); });
-    addButton("cmdHome", tr("Home"), [this] { ShowMyScout(true); });
+    addButton("cmdBack", tr("Back"), [this] { runBrowserCommand(BrowserCommand::Back); });
+    addButton("cmdForward", tr("Forward"), [this] { runBrowserCommand(BrowserCommand::Forward); });
+    addButton("cmdStop", tr("Stop"), [this] { runBrowserCommand(BrowserCommand::Stop); });
+    addButton("cmdRefresh", tr("Refresh"), [this] { runBrowserCommand(BrowserCommand::Refresh); });
+    addButton("cmdHome", tr("Home"), [this] { runBrowserCommand(BrowserCommand::Home); });
 
     m_lblHistory = new QLabel(QStringLiteral("History:"), toolbar);
     m_lblHistory->setObjectName(QStringLiteral("lblHistory"));
@@ -106,7 +117,7 @@ void DocumentWindow::buildPreviewPage(QWidget *page)
     row->addWidget(m_cmbHistory, 1);
     m_cmdLinkTo = new QPushButton(QStringLiteral("Link To:"), toolbar);
     m_cmdLinkTo->setObjectName(QStringLiteral("cmdLinkTo"));
-    m_cmdLinkTo->setEnabled(false);   // linking from the preview comes with link rewriting
+    connect(m_cmdLinkTo, &QPushButton::clicked, this, &DocumentWindow::cmdLinkTo_Click);
     row->addWidget(m_cmdLinkTo);
     m_previewLayout->addWidget(toolbar);
 }
@@ -117,6 +128,10 @@ QWebEngineView *DocumentWindow::browser()
     if (!m_browser) {
         m_browser = new QWebEngineView(m_previewPage);
         m_browser->setObjectName(QStringLiteral("wbScout"));
+        m_browser->setPage(new ScoutPage(m_browser));
+        connect(m_browser->page(), &QWebEnginePage::linkHovered, this, [](const QString &url) {
+            core::ShowStatus(url);
+        });
         m_previewLayout->addWidget(m_browser, 1);
         connect(m_browser, &QWebEngineView::urlChanged, this, [this](const QUrl &url) {
             const QString text = url.toString();
@@ -204,11 +219,76 @@ void DocumentWindow::activate()
 
 void DocumentWindow::ShowMyScout(bool)
 {
-    QUrl base;
-    if (!LocalFileName.isEmpty())
-        base = QUrl::fromLocalFile(QFileInfo(LocalFileName).absolutePath() + u'/');
-    browser()->setHtml(m_edit->Text(), base);
+    core::BeginWait();
+    removeScoutFile();
+    // Beside the document, so that its relative links and images resolve;
+    // an untitled document's page goes to the temp directory.
+    QString path = GetTempName(QStringLiteral("htm"));
+    m_scoutStub = core::StripExtension(path) + QStringLiteral(".tmp");
+    if (IsSaved()) {
+        const QString dir = QFileInfo(LocalFileName).absolutePath();
+        path = core::JoinPath(dir, core::FileNameOf(path));
+        CleanTempFiles(dir);
+    }
+    if (!RawSaveFile(path).ok()) {
+        QFile::remove(m_scoutStub);
+        path = GetTempName(QStringLiteral("htm"));
+        m_scoutStub = core::StripExtension(path) + QStringLiteral(".tmp");
+        const core::IoResult again = RawSaveFile(path);
+        if (!again.ok())
+            core::StepFailed(QStringLiteral("Could not write ") + path + QStringLiteral(": ") + again.message);
+    }
+    m_scoutFile = path;
+    core::ShowStatus(QStringLiteral("Preview"));
+    publish::CopyNeededApplets(m_edit->Text(), QFileInfo(path).absolutePath(), appletHelperFile());
+    browser()->setUrl(QUrl::fromLocalFile(path));
     bNeedsPreview = false;
+    core::EndWait();
+}
+
+void DocumentWindow::removeScoutFile()
+{
+    if (!m_scoutFile.isEmpty())
+        QFile::remove(m_scoutFile);
+    if (!m_scoutStub.isEmpty())
+        QFile::remove(m_scoutStub);
+    m_scoutFile.clear();
+    m_scoutStub.clear();
+}
+
+void DocumentWindow::runBrowserCommand(BrowserCommand command)
+{
+    if (command == BrowserCommand::Home) {
+        if (currentTab() == 1)
+            ShowMyScout(true);
+        else
+            selectTab(1);
+        return;
+    }
+    // Before the first preview there is nothing to go back to or stop.
+    if (!m_browser)
+        return;
+    switch (command) {
+    case BrowserCommand::Back: m_browser->back(); break;
+    case BrowserCommand::Forward: m_browser->forward(); break;
+    case BrowserCommand::Stop: m_browser->stop(); break;
+    case BrowserCommand::Refresh: m_browser->reload(); break;
+    case BrowserCommand::Home: break;
+    }
+}
+
+void DocumentWindow::cmdLinkTo_Click()
+{
+    QString target = m_cmbHistory->currentText().trimmed();
+    if (target.isEmpty())
+        return;
+    const QUrl url(target);
+    if (url.isLocalFile())
+        target = url.toLocalFile();
+    const QString link = markup::RelativeLink(target);
+    markup::InsertMarkup(QStringLiteral("<A HREF=") + markup::AddQuotes(link) + u'>'
+                             + markup::GetSelection(markup::Target(*m_edit)),
+                         QStringLiteral("</A>"));
 }
 
 void DocumentWindow::onTabChanged(int tab)
@@ -286,8 +366,8 @@ bool DocumentWindow::eventFilter(QObject *watched, QEvent *event)
     }
     case QEvent::KeyRelease: {
         const auto *key = static_cast<QKeyEvent *>(event);
-        const bool plainRight = key->key() == Qt::Key_Right && key->modifiers() == Qt::NoModifier;
-        if (!plainRight && m_edit->Dirty())
+        const bool held = key->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+        if (key->key() != Qt::Key_Right && !held && m_edit->Dirty())
             bNeedsPreview = true;
         updatePosition();
         break;

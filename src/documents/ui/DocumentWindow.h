@@ -52,6 +52,14 @@ public:
     // The position panel text, "Ln:" line " Chr:" column.
     QString positionText() const;
 
+    // The preview browser's own commands; Home shows the current text again.
+    enum class BrowserCommand { Back, Forward, Stop, Refresh, Home };
+    void runBrowserCommand(BrowserCommand command);
+    // Links the selection to the page the preview shows.
+    void cmdLinkTo_Click();
+    // The temporary page the preview tab shows now; empty before the first.
+    QString scoutFile() const { return m_scoutFile; }
+
 signals:
     void positionChanged(const QString &text);
     // The right button alone, in the text: the main window's popup menu.
@@ -71,6 +79,7 @@ private:
     void updatePosition();
     void buildPreviewPage(QWidget *page);
     QWebEngineView *browser();
+    void removeScoutFile();
 
     ScintillaEdit *m_edit = nullptr;
     QTabWidget *m_tabDoc = nullptr;
@@ -80,6 +89,8 @@ private:
     QComboBox *m_cmbHistory = nullptr;
     QLabel *m_lblHistory = nullptr;
     QPushButton *m_cmdLinkTo = nullptr;
+    QString m_scoutFile;     // the page written for the preview tab
+    QString m_scoutStub;     // the empty file that reserved its name
     bool m_skipQuery = false;
     bool m_closing = false;
     bool m_altClick = false;

@@ -1,6 +1,7 @@
 // The preview tab needs a real display for its browser engine: this test
 // runs under Xvfb (see tests/CMakeLists.txt).
 #include "core/Workspace.h"
+#include "core/ui/CommandTable.h"
 #include "core/ui/MainWindow.h"
 #include "documents/DocumentList.h"
 #include "documents/ui/DocumentWindow.h"
@@ -9,6 +10,9 @@
 #include "support/TestEnv.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QImage>
+#include <QPushButton>
 #include <QWebEnginePage>
 #include <QWebEngineView>
 #include <QtTest>
@@ -21,6 +25,7 @@ class tst_PreviewTab : public QObject
     Q_OBJECT
 private slots:
     void previewShowsTheEditedText();
+    void relativeImageAndLinkTo();
 };
 
 void tst_PreviewTab::previewShowsTheEditedText()
@@ -50,6 +55,77 @@ void tst_PreviewTab::previewShowsTheEditedText()
     }()), 30000);
     main.unloadDocument(doc);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    core::Workspace::setInstance(nullptr);
+}
+
+// The edited page shows beside its image; "Link To:" links the page shown;
+// the page goes when the window closes.
+void tst_PreviewTab::relativeImageAndLinkTo()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    core::ui::frmMain main;
+    core::Workspace::setInstance(&main);
+    main.resize(900, 700);
+    main.show();
+    QImage image(120, 80, QImage::Format_RGB32);
+    image.fill(QColor(220, 20, 30));
+    QDir().mkpath(env.path(QStringLiteral("site/img")));
+    QVERIFY(image.save(env.path(QStringLiteral("site/img/dot.png"))));
+    const QString file = env.write(QStringLiteral("site/page.html"),
+                                   "<HTML><BODY><H1>Title</H1><IMG ID=pic SRC=\"img/dot.png\"></BODY></HTML>");
+    QVERIFY(documents::OpenDocumentFile(file));
+    auto *doc = dynamic_cast<DocumentWindow *>(main.activeDocument());
+    doc->txtDoc().SetSel(16, 21);
+    doc->txtDoc().setSelText(QStringLiteral("Edited heading"));
+
+    // The preview tool of the toolbar opens the tab.
+    QVERIFY(main.commands().run(QStringLiteral("tlbHome")));
+    QCOMPARE(doc->currentTab(), 1);
+    auto *view = doc->findChild<QWebEngineView *>(QStringLiteral("wbScout"));
+    QVERIFY(view);
+    const QFileInfo page(doc->scoutFile());
+    QCOMPARE(page.absolutePath(), env.path(QStringLiteral("site")));
+    QVERIFY(page.fileName().startsWith(QStringLiteral("~qn")) && page.suffix() == QLatin1String("htm"));
+    auto width = std::make_shared<QVariant>();
+    auto shown = std::make_shared<QString>();
+    QTRY_VERIFY_WITH_TIMEOUT(([&] {
+        view->page()->runJavaScript(QStringLiteral("document.getElementById('pic') ? "
+                                                   "document.getElementById('pic').naturalWidth : 0"),
+                                    [width](const QVariant &v) { *width = v; });
+        view->page()->toPlainText([shown](const QString &t) { *shown = t; });
+        return width->toInt() == 120 && shown->contains(QStringLiteral("Edited heading"));
+    }()), 30000);
+
+    // The picture is on the screen: its red stands in the grabbed view.
+    QImage shot;
+    QTRY_VERIFY_WITH_TIMEOUT(([&] {
+        shot = view->grab().toImage();
+        for (int y = 0; y < shot.height(); y += 2) {
+            for (int x = 0; x < shot.width(); x += 2) {
+                const QColor c = shot.pixelColor(x, y);
+                if (c.red() > 200 && c.green() < 60 && c.blue() < 70)
+                    return true;
+            }
+        }
+        return false;
+    }()), 15000);
+    QVERIFY(shot.save(env.path(QStringLiteral("preview.png"))));
+    if (qEnvironmentVariableIsSet("QUILLERY_PREVIEW_SHOT"))
+        shot.save(qEnvironmentVariable("QUILLERY_PREVIEW_SHOT"));
+
+    // "Link To:" links the selection to the page in the history box.
+    auto *history = doc->findChild<QComboBox *>(QStringLiteral("cmbHistory"));
+    history->setCurrentText(QUrl::fromLocalFile(env.path(QStringLiteral("site/more/next page.htm"))).toString());
+    const int at = int(doc->txtDoc().Text().indexOf(QStringLiteral("Edited")));
+    doc->txtDoc().SetSel(at, at + 6);
+    doc->findChild<QPushButton *>(QStringLiteral("cmdLinkTo"))->click();
+    QVERIFY(doc->txtDoc().Text().contains(QStringLiteral("<A HREF=\"more/next page.htm\">Edited</A> heading")));
+
+    const QString scout = doc->scoutFile();
+    main.unloadDocument(doc);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!QFile::exists(scout));
     core::Workspace::setInstance(nullptr);
 }
 
