@@ -4,7 +4,7 @@
 
 namespace qly::documents {
 
-QString FileFilter()
+QString WebPageMasks()
 {
     QString masks = QStringLiteral("*.htm;*.html;*.shtml;*.ht3;*.pub");
     const QString ext = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Extension"));
@@ -13,6 +13,12 @@ QString FileFilter()
         if (!masks.split(u';').contains(mask))
             masks += u';' + mask;
     }
+    return masks;
+}
+
+QString FileFilter()
+{
+    const QString masks = WebPageMasks();
     return QStringLiteral("Web Pages (") + masks + QStringLiteral(")|") + masks
            + QStringLiteral("|Text Files (*.txt)|*.txt|CGI Files|*.cgi;*.pl;*.tcl;*.c|All Files|*.*");
 }

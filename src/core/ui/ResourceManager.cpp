@@ -1,6 +1,7 @@
 #include "core/ui/ResourceManager.h"
 
 #include "core/Settings.h"
+#include "documents/FileFilter.h"
 
 #include <QComboBox>
 #include <QFileSystemModel>
@@ -84,10 +85,7 @@ void ResourceManager::setFilesRoot(const QString &directory)
 
 void ResourceManager::InitializeFileList()
 {
-    QString masks = QStringLiteral("*.htm;*.html;*.shtml;*.ht3;*.pub");
-    const QString ext = ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Extension"));
-    if (!ext.isEmpty() && !masks.split(u';').contains(QStringLiteral("*.") + ext.toLower()))
-        masks += QStringLiteral(";*.") + ext.toLower();
+    const QString masks = documents::WebPageMasks();
     m_cmbFileType->clear();
     m_cmbFileType->addItem(QStringLiteral("Web Pages (") + masks + u')');
     m_cmbFileType->addItem(QStringLiteral("Graphics (*.jpg;*.gif)"));
