@@ -5,13 +5,12 @@
 #include "core/TextCodec.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
+#include "markup/Links.h"
 #include "markup/TagPrimitives.h"
 #include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QUrl>
 
 namespace qly::documents {
 
@@ -51,10 +50,11 @@ DropKind DroppedFileKind(const QString &path)
 
 QString DroppedFileLink(const Document &document, const QString &path)
 {
+    const QString target = QFileInfo(path).absoluteFilePath();
     if (document.LocalFileName.isEmpty() || document.bRemote)
-        return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toString();
-    const QDir base = QFileInfo(document.LocalFileName).absoluteDir();
-    return QDir::fromNativeSeparators(base.relativeFilePath(QFileInfo(path).absoluteFilePath()));
+        return markup::PathToFileUrl(target);
+    const QString relative = markup::RelativePath(target, QFileInfo(document.LocalFileName).absoluteFilePath());
+    return relative.isEmpty() ? FileNameOf(target) : relative;
 }
 
 void txtDoc_DropFileOnMe(Document &document, const QString &path)
