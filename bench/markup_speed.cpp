@@ -11,28 +11,22 @@
 #include <QElapsedTimer>
 #include <QFile>
 
+#include "BenchPage.h"
+
 #include <cstdio>
 
 namespace {
 
 int generate(const QString &path, int megabytes)
 {
-    QFile out(path);
-    if (!out.open(QIODevice::WriteOnly))
-        return 1;
-    out.write("<HTML>\r\n<HEAD><TITLE>Large page</TITLE></HEAD>\r\n<BODY BGCOLOR=\"#FFFFFF\">\r\n");
-    const QByteArray rows[] = {
+    const QByteArrayList rows = {
         "<P CLASS=\"Row\">The quick fox jumps over the lazy dog, and the <A HREF=\"Page.html#Top\">link to "
         "the page</A> is <B>bold</B>.\r\n",
         "<TABLE BORDER=1 WIDTH=\"100%\"><TR><TD ALIGN=Center>Caf\xc3\xa9 of the town</TD><TD>"
         "<IMG SRC=\"Images/Pic.GIF\" WIDTH=10 HEIGHT=10 ALT=\"The picture\"></TD></TR></TABLE>\r\n",
         "<UL><LI>Other text without that word, <EM>emphasised</EM> here</LI><LI>THE end</LI></UL>\r\n",
     };
-    const qint64 target = qint64(megabytes) * 1024 * 1024;
-    for (int i = 0; out.size() < target; ++i)
-        out.write(rows[i % 3]);
-    out.write("</BODY>\r\n</HTML>\r\n");
-    return 0;
+    return qly::bench::writeGeneratedPage(path, megabytes, rows, "<BODY BGCOLOR=\"#FFFFFF\">") ? 0 : 1;
 }
 
 void report(const char *what, qint64 bytes, qint64 ns, long hits = -1)

@@ -3,6 +3,7 @@
 //   bench_open_large quillery FILE   the editor's control (bytes kept as on disk)
 //   bench_open_large plain FILE      a plain QScintilla load of the decoded text
 //   bench_open_large generate FILE [MB]
+#include "BenchPage.h"
 #include "documents/ui/ScintillaEdit.h"
 
 #include <Qsci/qsciscintilla.h>
@@ -13,31 +14,15 @@
 #include <QTextStream>
 
 #include <cstdio>
-#include <sys/resource.h>
 
 namespace {
 
-long peakKiB()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
-}
-
 int generate(const QString &path, int megabytes)
 {
-    QFile out(path);
-    if (!out.open(QIODevice::WriteOnly))
-        return 1;
-    out.write("<HTML>\r\n<HEAD><TITLE>Large page</TITLE></HEAD>\r\n<BODY>\r\n");
     const QByteArray row =
         "<P CLASS=\"row\">Row text with <A HREF=\"page.html#a\">a link</A>, <B>bold</B> and caf\xc3\xa9 "
         "<IMG SRC=\"images/pic.gif\" WIDTH=10 HEIGHT=10 ALT=\"x\"></P>\r\n";
-    const qint64 target = qint64(megabytes) * 1024 * 1024;
-    while (out.size() < target)
-        out.write(row);
-    out.write("</BODY>\r\n</HTML>\r\n");
-    return 0;
+    return qly::bench::writeGeneratedPage(path, megabytes, {row}) ? 0 : 1;
 }
 
 } // namespace
@@ -54,7 +39,7 @@ int main(int argc, char **argv)
         return generate(file, argc > 3 ? std::atoi(argv[3]) : 50);
 
     QApplication app(argc, argv);
-    const long before = peakKiB();
+    const long before = qly::bench::peakKiB();
     QElapsedTimer timer;
     long bytes = 0;
     if (mode == QLatin1String("quillery")) {
@@ -65,7 +50,7 @@ int main(int argc, char **argv)
         bytes = edit.GetTextLength();
         const qint64 ms = timer.elapsed();
         std::printf("quillery  load %6lld ms  chars %ld  peak %ld MiB (start %ld MiB)\n", ms, bytes,
-                    peakKiB() / 1024, before / 1024);
+                    qly::bench::peakKiB() / 1024, before / 1024);
     } else {
         QsciScintilla sci;
         timer.start();
@@ -77,7 +62,7 @@ int main(int argc, char **argv)
         bytes = sci.length();
         const qint64 ms = timer.elapsed();
         std::printf("plain     load %6lld ms  bytes %ld  peak %ld MiB (start %ld MiB)\n", ms, bytes,
-                    peakKiB() / 1024, before / 1024);
+                    qly::bench::peakKiB() / 1024, before / 1024);
     }
     return 0;
 }

@@ -12,23 +12,19 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "BenchPage.h"
+
 #include <cstdio>
 
 namespace {
 
 int generate(const QString &path, int megabytes)
 {
-    QFile out(path);
-    if (!out.open(QIODevice::WriteOnly))
-        return 1;
-    out.write("<HTML>\r\n<HEAD><TITLE>Large page</TITLE></HEAD>\r\n<BODY>\r\n");
     const QByteArray row =
         "<P CLASS=\"row\">Caf\xc3\xa9 cr\xc3\xa8me, %%NAME%% wrote <A HREF=\"docs\\page.html#a\">a link</A> "
         "\xc2\xa9 2024 <IMG SRC=\"images\\pic.gif\" WIDTH=10 ALT=\"x\"> C:\\dir</P>\r\n";
-    const qint64 target = qint64(megabytes) * 1024 * 1024;
-    while (out.size() < target)
-        out.write(row);
-    out.write("</BODY>\r\n</HTML>\r\n");
+    if (!qly::bench::writeGeneratedPage(path, megabytes, {row}))
+        return 1;
     QFile aliases(QFileInfo(path).dir().filePath(QStringLiteral("aliases.inf")));
     if (!aliases.open(QIODevice::WriteOnly))
         return 1;
