@@ -24,23 +24,58 @@ class tst_PreviewTab : public QObject
 {
     Q_OBJECT
 private slots:
+    void init();
+    void cleanup();
     void previewShowsTheEditedText();
     void relativeImageAndLinkTo();
+
+private:
+    // Opens `name` holding `bytes` and writes `text` over [from, to).
+    DocumentWindow *openEdited(const QString &name, const QByteArray &bytes, int from, int to, const QString &text);
+
+    std::unique_ptr<test::TestEnv> m_env;
+    std::unique_ptr<test::ScriptedPrompts> m_prompts;
+    std::unique_ptr<core::ui::frmMain> m_main;
 };
+
+void tst_PreviewTab::init()
+{
+    m_env = std::make_unique<test::TestEnv>();
+    m_prompts = std::make_unique<test::ScriptedPrompts>();
+    m_main = std::make_unique<core::ui::frmMain>();
+    core::Workspace::setInstance(m_main.get());
+    m_main->resize(900, 700);
+    m_main->show();
+}
+
+void tst_PreviewTab::cleanup()
+{
+    for (documents::Document *d : m_main->documentList())
+        m_main->unloadDocument(d);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    core::Workspace::setInstance(nullptr);
+    m_main.reset();
+    m_prompts.reset();
+    m_env.reset();
+}
+
+DocumentWindow *tst_PreviewTab::openEdited(const QString &name, const QByteArray &bytes, int from, int to,
+                                           const QString &text)
+{
+    const QString file = m_env->write(name, bytes);
+    if (!documents::OpenDocumentFile(file))
+        return nullptr;
+    auto *doc = dynamic_cast<DocumentWindow *>(m_main->activeDocument());
+    doc->txtDoc().SetSel(from, to);
+    doc->txtDoc().setSelText(text);
+    return doc;
+}
 
 void tst_PreviewTab::previewShowsTheEditedText()
 {
-    test::TestEnv env;
-    test::ScriptedPrompts prompts;
-    core::ui::frmMain main;
-    core::Workspace::setInstance(&main);
-    main.resize(900, 700);
-    main.show();
-    const QString file = env.write(QStringLiteral("p.html"), "<HTML><BODY><P>Preview me</P></BODY></HTML>");
-    QVERIFY(documents::OpenDocumentFile(file));
-    auto *doc = dynamic_cast<DocumentWindow *>(main.activeDocument());
-    doc->txtDoc().SetSel(15, 25);
-    doc->txtDoc().setSelText(QStringLiteral("Edited text"));
+    DocumentWindow *doc = openEdited(QStringLiteral("p.html"), "<HTML><BODY><P>Preview me</P></BODY></HTML>", 15, 25,
+                                     QStringLiteral("Edited text"));
+    QVERIFY(doc);
     doc->bNeedsPreview = true;
     doc->selectTab(1);
     auto *view = doc->findChild<QWebEngineView *>(QStringLiteral("wbScout"));
@@ -53,34 +88,24 @@ void tst_PreviewTab::previewShowsTheEditedText()
         view->page()->toPlainText([shown](const QString &t) { *shown = t; });
         return shown->contains(QStringLiteral("Edited text"));
     }()), 30000);
-    main.unloadDocument(doc);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    core::Workspace::setInstance(nullptr);
 }
 
 // The edited page shows beside its image; "Link To:" links the page shown;
 // the page goes when the window closes.
 void tst_PreviewTab::relativeImageAndLinkTo()
 {
-    test::TestEnv env;
-    test::ScriptedPrompts prompts;
-    core::ui::frmMain main;
-    core::Workspace::setInstance(&main);
-    main.resize(900, 700);
-    main.show();
+    test::TestEnv &env = *m_env;
     QImage image(120, 80, QImage::Format_RGB32);
     image.fill(QColor(220, 20, 30));
     QDir().mkpath(env.path(QStringLiteral("site/img")));
     QVERIFY(image.save(env.path(QStringLiteral("site/img/dot.png"))));
-    const QString file = env.write(QStringLiteral("site/page.html"),
-                                   "<HTML><BODY><H1>Title</H1><IMG ID=pic SRC=\"img/dot.png\"></BODY></HTML>");
-    QVERIFY(documents::OpenDocumentFile(file));
-    auto *doc = dynamic_cast<DocumentWindow *>(main.activeDocument());
-    doc->txtDoc().SetSel(16, 21);
-    doc->txtDoc().setSelText(QStringLiteral("Edited heading"));
+    DocumentWindow *doc = openEdited(QStringLiteral("site/page.html"),
+                                     "<HTML><BODY><H1>Title</H1><IMG ID=pic SRC=\"img/dot.png\"></BODY></HTML>", 16, 21,
+                                     QStringLiteral("Edited heading"));
+    QVERIFY(doc);
 
     // The preview tool of the toolbar opens the tab.
-    QVERIFY(main.commands().run(QStringLiteral("tlbHome")));
+    QVERIFY(m_main->commands().run(QStringLiteral("tlbHome")));
     QCOMPARE(doc->currentTab(), 1);
     auto *view = doc->findChild<QWebEngineView *>(QStringLiteral("wbScout"));
     QVERIFY(view);
@@ -123,10 +148,9 @@ void tst_PreviewTab::relativeImageAndLinkTo()
     QVERIFY(doc->txtDoc().Text().contains(QStringLiteral("<A HREF=\"more/next page.htm\">Edited</A> heading")));
 
     const QString scout = doc->scoutFile();
-    main.unloadDocument(doc);
+    m_main->unloadDocument(doc);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!QFile::exists(scout));
-    core::Workspace::setInstance(nullptr);
 }
 
 int main(int argc, char **argv)
