@@ -1,6 +1,6 @@
-#include "core/ui/Main.h"
+#include "app/Main.h"
 
 int main(int argc, char **argv)
 {
-    return qly::core::ui::Main(argc, argv);
+    return qly::app::Main(argc, argv);
 }

@@ -6,11 +6,6 @@
 #include "core/Settings.h"
 #include "core/Globals.h"
 #include "core/Startup.h"
-#include "core/Workspace.h"
-#include "documents/ColorTable.h"
-#include "documents/Document.h"
-#include "documents/DocumentList.h"
-#include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
 #include <QFileInfo>
@@ -39,29 +34,15 @@ QString customDictionary(const QString &path)
 void OptionsModel::commit()
 {
     BeginWait();
-    applyFont();
     saveGeneral();
     saveLocations();
     saveEditing();
     saveDisplay();
     saveColours();
     saveBrowsers();
+    if (optionsHooks().applyToDocuments)
+        optionsHooks().applyToDocuments();
     EndWait();
-    if (documents::Document *doc = Workspace::CurrentDocument())
-        doc->txtDoc().SetFocus();
-}
-
-void OptionsModel::applyFont()
-{
-    const QString name = fontName.trimmed().isEmpty() ? QStringLiteral("MS Sans Serif") : fontName.trimmed();
-    int size = fontSize.trimmed().toInt();
-    if (size <= 0)
-        size = 10;
-    for (documents::Document *doc : documents::AllDocuments()) {
-        platform::HTMLEdit &edit = doc->txtDoc();
-        if (edit.FontName() != name || edit.FontSize() != size)
-            edit.SetFontAndSize(name, size);
-    }
 }
 
 void OptionsModel::saveChecks(std::initializer_list<OptionsTab> tabs)
@@ -107,14 +88,7 @@ void OptionsModel::saveDisplay()
 {
     saveChecks({OptionsTab::Display});
     WriteSetting(kDisplay, QStringLiteral("Scout Refresh"), m_scoutEnabled ? normalizeScout(scoutSeconds) : QString());
-    for (documents::Document *doc : documents::AllDocuments())
-        documents::ApplyWordWrap(*doc);
-
-    const bool netscape = check(OptionCheck::ShowNS);
-    const bool favorites = check(OptionCheck::ShowIE);
-    if (optionsHooks().updateBookmarks)
-        optionsHooks().updateBookmarks(netscape, favorites);
-    if (!netscape && !favorites)
+    if (!check(OptionCheck::ShowNS) && !check(OptionCheck::ShowIE))
         platform::MsgBox(QStringLiteral("The bookmarks tab will not contain any information"), platform::Buttons::Ok,
                          platform::Icon::Information);
 }
@@ -124,24 +98,6 @@ void OptionsModel::saveColours()
     for (int i = 0; i < kColourCount; ++i) {
         const int c = colours[size_t(i)];
         WriteSetting(kEditing, colourBindings()[size_t(i)].key, c < 0 ? QString() : QString::number(c));
-    }
-    if (optionsHooks().tagTreeSettings)
-        optionsHooks().tagTreeSettings();
-
-    const platform::ColorTable table = documents::ColorTableFromSettings();
-    const int mode = ReadSettingFlag(kEditing, QStringLiteral("Quick Color")) ? platform::ColorTagSyntax
-                                                                               : platform::ColorEntireTags;
-    for (documents::Document *doc : documents::AllDocuments()) {
-        platform::HTMLEdit &edit = doc->txtDoc();
-        if (!gColorHTML) {
-            // Colouring switched off here stops at once in every window.
-            edit.setColorMode(platform::ColorOff);
-            continue;
-        }
-        edit.InitColor(table);
-        if (edit.ColorMode() == platform::ColorOff)
-            edit.setColorMode(mode);
-        edit.ColorHTML();
     }
 }
 

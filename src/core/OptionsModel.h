@@ -78,7 +78,6 @@ private:
     void saveDisplay();
     void saveColours();
     void saveBrowsers();
-    void applyFont();
 
     std::array<bool, kOptionCheckCount> m_checks{};
     bool m_forceExtVisible = false;

@@ -3,8 +3,6 @@
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/ProfileFile.h"
-#include "core/Workspace.h"
-#include "documents/Document.h"
 #include "platform/Prompts.h"
 
 #include <QDir>
@@ -84,6 +82,14 @@ QString YesNo(bool on)
     return on ? QStringLiteral("Yes") : QStringLiteral("No");
 }
 
+namespace {
+std::function<QString()> &activeFolder()
+{
+    static std::function<QString()> folder;
+    return folder;
+}
+} // namespace
+
 QString GetFileLocation(const QString &key, bool useCurrent)
 {
     QString dir = ReadSetting(QStringLiteral("File Locations"), key);
@@ -91,12 +97,15 @@ QString GetFileLocation(const QString &key, bool useCurrent)
         dir = QDir::currentPath();
     if (DirExists(dir))
         return dir;
-    if (documents::Document *doc = Workspace::CurrentDocument()) {
-        const QString docDir = QFileInfo(doc->LocalFileName).absolutePath();
-        if (!doc->LocalFileName.isEmpty() && DirExists(docDir))
-            return docDir;
-    }
+    const QString docDir = activeFolder() ? activeFolder()() : QString();
+    if (!docDir.isEmpty() && DirExists(docDir))
+        return docDir;
     return ProgramDirectory();
+}
+
+void setActiveDocumentFolder(std::function<QString()> folder)
+{
+    activeFolder() = std::move(folder);
 }
 
 } // namespace qly::core

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 namespace qly::core {
 
@@ -31,5 +32,8 @@ QString YesNo(bool on);
 // when that is no directory, the active document's directory, else the
 // program directory.
 QString GetFileLocation(const QString &key, bool useCurrent = false);
+// Where GetFileLocation finds the active document's directory; set by the
+// documents, empty until there are any.
+void setActiveDocumentFolder(std::function<QString()> folder);
 
 } // namespace qly::core

@@ -4,7 +4,6 @@
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
-#include "documents/DocumentList.h"
 #include "platform/Prompts.h"
 
 #include <QDir>
@@ -90,34 +89,6 @@ void ReadGlobalEditingFlags()
     gTranslateWhileTyping = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Translate While Typing"));
     gColorOnLeavingLine = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Color On Leaving Line"));
     gColorHTML = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Color HTML"));
-}
-
-void OpenStartupDocuments(const QString &commandLineRest, const StartupDocuments &how)
-{
-    QString file = commandLineRest.trimmed();
-    if (file.size() >= 2 && file.startsWith(u'"') && file.endsWith(u'"'))
-        file = file.mid(1, file.size() - 2);
-    if (!file.isEmpty()) {
-        documents::OpenDocumentFile(file);
-        return;
-    }
-    if (ReadSettingFlag(QStringLiteral("General"), QStringLiteral("Open New Document")) && how.newDocument)
-        how.newDocument();
-    if (!ReadSettingFlag(QStringLiteral("General"), QStringLiteral("Restore Last Session")))
-        return;
-    for (int n = 1; n <= 99; ++n) {
-        const QString entry = ReadSetting(QStringLiteral("Last Session"), QString::number(n));
-        if (entry.isEmpty())
-            break;
-        const QString path = entry.section(u',', 0, 0);
-        if (GetFileExt(path).compare(QLatin1String("PRJ"), Qt::CaseInsensitive) == 0) {
-            if (how.openWebsite)
-                how.openWebsite(path);
-        } else {
-            documents::OpenDocumentFile(entry);
-            DoEvents();
-        }
-    }
 }
 
 } // namespace qly::core

@@ -2,7 +2,6 @@
 
 #include <QRect>
 #include <QString>
-#include <functional>
 
 namespace qly::core {
 
@@ -32,15 +31,5 @@ void WriteMainGeometry(bool normal, const QRect &twips);
 
 // Reads gTranslateWhileTyping, gColorOnLeavingLine and gColorHTML.
 void ReadGlobalEditingFlags();
-
-// The last step of start-up that opens documents.
-struct StartupDocuments {
-    std::function<void()> newDocument;                 // an untitled document
-    std::function<void(const QString &)> openWebsite;  // a .prj entry of the session
-};
-// The rest of the command line wins; otherwise the untitled document when
-// [General] "Open New Document" is on, then the [Last Session] entries 1 to
-// 99 up to the first empty one when "Restore Last Session" is on.
-void OpenStartupDocuments(const QString &commandLineRest, const StartupDocuments &how);
 
 } // namespace qly::core

@@ -93,13 +93,9 @@ bool Document::Save()
             reportSaveFailure(path, result);
             ok = false;
         } else {
-            if (bRemote && documentHooks().saveRemote)
-                ok = documentHooks().saveRemote(*this);
             if (documentHooks().addRecentFile)
                 documentHooks().addRecentFile(path);
             txtDoc().setDirty(false);
-            if (documentHooks().fileSaved)
-                documentHooks().fileSaved(filenum);
         }
     } else {
         ok = SaveAs();

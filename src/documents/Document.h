@@ -72,9 +72,6 @@ QString StripDocSuffix(const QString &caption);
 // Seams for what later parts of the program add to saving and loading.
 struct DocumentHooks {
     std::function<void(const QString &path)> addRecentFile;
-    std::function<bool(Document &)> saveRemote;
-    std::function<void(qint16 filenum)> fileSaved;
-    std::function<void(const QString &path)> openWebsite;
 };
 DocumentHooks &documentHooks();
 

@@ -4,7 +4,7 @@
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/ColorTable.h"
 #include "documents/Document.h"
 #include "platform/HTMLEdit.h"
@@ -103,9 +103,13 @@ bool OpenDocumentFile(const QString &argument, const QString &showNameIn)
     if (argument.isEmpty())
         return finish(false);
     if (GetFileExt(argument).compare(QLatin1String("PRJ"), Qt::CaseInsensitive) == 0) {
-        if (documentHooks().openWebsite)
-            documentHooks().openWebsite(argument);
-        return finish(true);
+        // Website projects have no window of their own yet.
+        EndWait();
+        platform::MsgBox(argument + QStringLiteral(" is a website project. This version of Quillery cannot open "
+                                                   "website projects yet, so it was not opened."),
+                         platform::Buttons::Ok, platform::Icon::Exclamation);
+        BeginWait();
+        return finish(false);
     }
 
     QString path = argument;

@@ -3,7 +3,7 @@
 #include "core/Feedback.h"
 #include "core/Globals.h"
 #include "core/Settings.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "markup/CharacterCodes.h"
 #include "markup/TagPrimitives.h"
@@ -48,7 +48,7 @@ void TranslateSelection(platform::HTMLEdit &target)
 
 void EditTranslate_Click()
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     EnsureCharacterCodes();
@@ -102,7 +102,7 @@ QString HTMLToAdd(const QString &listLine)
 
 void InsertEntity(const QString &html)
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     InsertMarkup(html, doc->txtDoc().SelText());

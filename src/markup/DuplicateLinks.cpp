@@ -1,6 +1,6 @@
 #include "markup/DuplicateLinks.h"
 
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
@@ -27,7 +27,7 @@ bool collectLinkTags(const QString &text, std::vector<LinkTag> &tags, int &unclo
 
 void ToolsFindDup_Click(const DuplicateAsk &ask)
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     platform::HTMLEdit &edit = doc->txtDoc();

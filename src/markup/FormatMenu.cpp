@@ -2,7 +2,7 @@
 
 #include "core/Globals.h"
 #include "core/Settings.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "markup/Selection.h"
 #include "markup/TagPrimitives.h"
@@ -17,7 +17,7 @@ constexpr bool SkipRepeatTest = true;
 
 platform::HTMLEdit *currentBuffer()
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     return doc ? &doc->txtDoc() : nullptr;
 }
 

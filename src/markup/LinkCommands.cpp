@@ -3,7 +3,7 @@
 #include "core/Feedback.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "markup/Links.h"
 #include "markup/TagPrimitives.h"
@@ -42,7 +42,7 @@ void replaceWholeText(platform::HTMLEdit &edit, const QString &text)
 
 void EditAbsToRel_Click()
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     if (!core::FileExists(doc->LocalFileName)) {
@@ -90,7 +90,7 @@ void EditAbsToRel_Click()
 
 void EditRelToAbs_Click()
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     if (!core::FileExists(doc->LocalFileName)) {
@@ -158,7 +158,7 @@ QString removeTags(const QString &text, const QString &mode, const CancelCheck &
 
 bool RemoveMarkup(const QString &mode, const CancelCheck &cancelled)
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return false;
     platform::HTMLEdit &edit = doc->txtDoc();

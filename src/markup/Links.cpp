@@ -1,7 +1,7 @@
 #include "markup/Links.h"
 
 #include "core/Settings.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 
 #include <QStringList>
@@ -81,7 +81,7 @@ QString RelativePath(const QString &target, const QString &base)
 
 QString RelativeLink(const QString &target)
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return QString();
     const QString base = doc->LocalFileName;

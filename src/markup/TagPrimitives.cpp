@@ -1,7 +1,7 @@
 #include "markup/TagPrimitives.h"
 
 #include "core/Settings.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "markup/Selection.h"
 #include "markup/TextOps.h"
@@ -27,7 +27,7 @@ void insertIntoHolder(TextHolder &holder, const QString &startText, const QStrin
 
 void InsertMarkup(QString startText, QString endText, bool skipRepeatTest, const Target &given)
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     Target target = given;
@@ -76,7 +76,7 @@ void InsertMarkup(QString startText, QString endText, bool skipRepeatTest, const
 
 void WrapSelection(const QString &startTag, const QString &endTag, bool skipRepeatTest)
 {
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     InsertMarkup(startTag + GetSelection(doc->txtDoc()), endTag, skipRepeatTest);

@@ -4,7 +4,7 @@
 #include "core/FileIo.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "documents/TempFiles.h"
 #include "markup/Attributes.h"
@@ -72,7 +72,7 @@ bool copyClass(const QString &name, const QString &directory, const QString &asN
 
 QString GetPreviewDirectory()
 {
-    documents::Document *doc = Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     const QString docDir = doc ? DirectoryOf(doc->captionPath()) : QString();
     const bool publishFirst = ReadSettingFlag(kGeneral, QStringLiteral("Publish Previews"));
     QString dir = docDir;
@@ -129,7 +129,7 @@ void CopyNeededApplets(const QString &text, const QString &directory, const QStr
 
 void PreviewDocument(const QString &browser, const QString &mode)
 {
-    documents::Document *doc = Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     if (doc->bRemote) {
@@ -186,7 +186,7 @@ namespace qly::publish {
 
 void tlbPreview_Click(const std::function<void()> &chooseBrowser)
 {
-    if (!core::Workspace::CurrentDocument())
+    if (!documents::Workspace::CurrentDocument())
         return;
     const QString browser = core::ReadSetting(QStringLiteral("File Locations"), QStringLiteral("Browser"));
     if (browser.isEmpty()) {

@@ -5,7 +5,7 @@
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/TextCodec.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "markup/CharacterCodes.h"
 #include "platform/Prompts.h"
@@ -118,7 +118,7 @@ QString PrepareSource(const QString &source)
             core::ErrorBox(QStringLiteral("File not found.") + QStringLiteral(": ") + source);
         return source;
     }
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return QString();
     QString dir = core::ReadSetting(QStringLiteral("File Locations"), QStringLiteral("Publish"));

@@ -270,11 +270,6 @@ void tst_Options::commitReachesOpenDocuments()
     test::FakeWorkspace ws;
     test::FakeDocument *a = ws.addDocument(QStringLiteral("a"), QStringLiteral("<p>"));
     test::FakeDocument *b = ws.addDocument(QStringLiteral("b"), QStringLiteral("<b>"));
-    QStringList calls;
-    core::optionsHooks().tagTreeSettings = [&calls] { calls << QStringLiteral("tree"); };
-    core::optionsHooks().updateBookmarks = [&calls](bool ns, bool ie) {
-        calls << QStringLiteral("bookmarks %1 %2").arg(ns).arg(ie);
-    };
 
     OptionsModel m;
     m.load();
@@ -297,7 +292,6 @@ void tst_Options::commitReachesOpenDocuments()
     QVERIFY(core::gColorHTML);
     QVERIFY(core::gTranslateWhileTyping);
     QCOMPARE(setting("Editing", "Text"), QStringLiteral("255"));
-    QCOMPARE(calls, (QStringList{QStringLiteral("bookmarks 1 0"), QStringLiteral("tree")}));
     QVERIFY(prompts.shown.isEmpty());
 
     m.setCheck(OptionCheck::ColorHTML, false);

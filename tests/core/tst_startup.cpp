@@ -1,8 +1,9 @@
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
-#include "core/Shutdown.h"
 #include "core/Startup.h"
+#include "documents/DocumentList.h"
+#include "documents/StartupDocuments.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -24,9 +25,7 @@ private slots:
     void commandLineWinsOverSession();
     void newDocumentComesBeforeRestoredOnes();
     void restoreStopsAtFirstEmptyKey();
-    void closeIsRefusedDuringStartup();
-    void cancelInSavePromptKeepsEverything();
-    void closeSweepsOnlyTheCurrentDirectory();
+    void websiteEntriesSayTheyCannotOpen();
 };
 
 void tst_Startup::iniSwitch_data()
@@ -112,7 +111,7 @@ void tst_Startup::commandLineWinsOverSession()
     core::WriteSetting(QStringLiteral("General"), QStringLiteral("Restore Last Session"), QStringLiteral("yes"));
     core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("1"), other + QStringLiteral(",0,1,1,1,1"));
     int newDocs = 0;
-    core::OpenStartupDocuments(u' ' + page + u' ', {[&] { ++newDocs; }, {}});
+    documents::OpenStartupDocuments(u' ' + page + u' ', {[&] { ++newDocs; }, {}});
     QCOMPARE(newDocs, 0);
     QCOMPARE(ws.count(), 1);
     QCOMPARE(ws.document(0)->caption(), page);
@@ -128,15 +127,16 @@ void tst_Startup::newDocumentComesBeforeRestoredOnes()
     core::WriteSetting(QStringLiteral("General"), QStringLiteral("Restore Last Session"), QStringLiteral("Yes"));
     core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("1"), a + QStringLiteral(",2,7500,6000,15,30,1"));
     core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("2"), QStringLiteral("/x/Site.PRJ,0,1,1,1,1"));
-    QStringList sites;
-    core::OpenStartupDocuments(QString(), {[&] { ws.addDocument(QStringLiteral("Untitled-1"), {}); },
-                                           [&](const QString &p) { sites << p; }});
+    test::ScriptedPrompts prompts;
+    documents::OpenStartupDocuments(QString(), {[&] { ws.addDocument(QStringLiteral("Untitled-1"), {}); }, {}});
     QCOMPARE(ws.count(), 2);
     QCOMPARE(ws.document(0)->caption(), QStringLiteral("Untitled-1"));
     QCOMPARE(ws.document(1)->caption(), a);
     QCOMPARE(ws.document(1)->windowState(), 2);
     QCOMPARE(ws.document(1)->currentTab(), 1);
-    QCOMPARE(sites, QStringList{QStringLiteral("/x/Site.PRJ")});
+    // The website entry is not silently dropped.
+    QCOMPARE(prompts.shown.size(), 1);
+    QVERIFY(prompts.texts()[0].startsWith(QStringLiteral("/x/Site.PRJ is a website project.")));
 }
 
 void tst_Startup::restoreStopsAtFirstEmptyKey()
@@ -146,70 +146,30 @@ void tst_Startup::restoreStopsAtFirstEmptyKey()
     const QString a = env.write(QStringLiteral("a.html"), "a");
     core::WriteSetting(QStringLiteral("General"), QStringLiteral("Restore Last Session"), QStringLiteral("Yes"));
     core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("2"), a + QStringLiteral(",0,1,1,1,1"));
-    core::OpenStartupDocuments(QString(), {});
+    documents::OpenStartupDocuments(QString(), {});
     QCOMPARE(ws.count(), 0);
 }
 
-void tst_Startup::closeIsRefusedDuringStartup()
+void tst_Startup::websiteEntriesSayTheyCannotOpen()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
     test::FakeWorkspace ws;
-    core::gStartupPassed = false;
-    int unloads = 0;
-    core::shutdownHooks().unloadAllForms = [&] { ++unloads; };
-    QVERIFY(!core::CloseEverything());
-    QCOMPARE(prompts.texts(), QStringList{QStringLiteral(
-        "Quillery has not yet finished its startup process. Please try again in a few seconds ")});
-    QCOMPARE(prompts.shown[0].title, QStringLiteral("Quillery 4.01 - Error"));
-    QCOMPARE(unloads, 0);
-    core::shutdownHooks() = {};
-}
+    const QString project = env.write(QStringLiteral("site.prj"), "[Files]\r\n");
+    QVERIFY(!documents::OpenDocumentFile(project));
+    QCOMPARE(ws.count(), 0);
+    QCOMPARE(prompts.texts(), QStringList{project + QStringLiteral(
+        " is a website project. This version of Quillery cannot open website projects yet, so it was not opened.")});
 
-void tst_Startup::cancelInSavePromptKeepsEverything()
-{
-    test::TestEnv env;
-    test::ScriptedPrompts prompts;
-    test::FakeWorkspace ws;
-    const QString file = env.write(QStringLiteral("a.html"), "old");
-    ws.addDocument(file, QStringLiteral("new text"), file);
-    int unloads = 0;
-    core::shutdownHooks().unloadAllForms = [&] { ++unloads; };
-    prompts.answer(platform::Answer::Cancel);
-    QVERIFY(!core::CloseEverything());
-    QCOMPARE(prompts.texts(), QStringList{QStringLiteral("Do you want to save ") + file + u'?'});
-    QCOMPARE(unloads, 0);
-    QVERIFY(!core::gClosing);
-    QCOMPARE(env.read(file), QByteArray("old"));
-    QVERIFY(ws.document(0)->edit.Dirty());
-    // Asked again, Yes saves and the program goes.
-    prompts.answer(platform::Answer::Yes);
-    QVERIFY(core::CloseEverything());
-    QCOMPARE(env.read(file), QByteArray("new text"));
-    QCOMPARE(unloads, 1);
-    QCOMPARE(core::ReadSetting(QStringLiteral("Last Session"), QStringLiteral("1")).section(u',', 0, 0), file);
-    core::shutdownHooks() = {};
-}
-
-void tst_Startup::closeSweepsOnlyTheCurrentDirectory()
-{
-    test::TestEnv env;
-    test::FakeWorkspace ws;
-    const QString docs = env.path(QStringLiteral("docs"));
-    const QString autosave = env.path(QStringLiteral("autosave"));
-    QDir().mkpath(docs);
-    QDir().mkpath(autosave);
-    core::WriteSetting(QStringLiteral("File Locations"), QStringLiteral("Documents"), docs);
-    core::WriteSetting(QStringLiteral("File Locations"), QStringLiteral("AutoSave"), autosave);
-    env.write(QStringLiteral("docs/~qly1234.tmp"), "t");
-    env.write(QStringLiteral("docs/~qlpreview.htm"), "t");
-    env.write(QStringLiteral("docs/keep.htm"), "k");
-    env.write(QStringLiteral("here.qnb"), "a");           // the current directory
-    env.write(QStringLiteral("autosave/kept.qnb"), "a");
-    QVERIFY(core::CloseEverything());
-    QCOMPARE(QDir(docs).entryList(QDir::Files), QStringList{QStringLiteral("keep.htm")});
-    QVERIFY(!QFile::exists(env.path(QStringLiteral("here.qnb"))));
-    QVERIFY(QFile::exists(env.path(QStringLiteral("autosave/kept.qnb"))));
+    // A session that stops early: the start-up is closing.
+    const QString a = env.write(QStringLiteral("a.html"), "a");
+    const QString b = env.write(QStringLiteral("b.html"), "b");
+    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Restore Last Session"), QStringLiteral("Yes"));
+    core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("1"), a + QStringLiteral(",0,1,1,1,1"));
+    core::WriteSetting(QStringLiteral("Last Session"), QStringLiteral("2"), b + QStringLiteral(",0,1,1,1,1"));
+    documents::OpenStartupDocuments(QString(), {{}, [] { return true; }});
+    QCOMPARE(ws.count(), 1);
+    QCOMPARE(ws.document(0)->caption(), a);
 }
 
 QTEST_GUILESS_MAIN(tst_Startup)

@@ -4,12 +4,12 @@ namespace qly::test {
 
 FakeWorkspace::FakeWorkspace()
 {
-    core::Workspace::setInstance(this);
+    documents::Workspace::setInstance(this);
 }
 
 FakeWorkspace::~FakeWorkspace()
 {
-    core::Workspace::setInstance(nullptr);
+    documents::Workspace::setInstance(nullptr);
 }
 
 QList<documents::Document *> FakeWorkspace::documentList() const

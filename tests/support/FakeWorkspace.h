@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/Document.h"
 #include "documents/MemoryEdit.h"
 
@@ -40,7 +40,7 @@ private:
 };
 
 // A workspace of fake documents; the last one made is active.
-class FakeWorkspace final : public core::Workspace
+class FakeWorkspace final : public documents::Workspace
 {
 public:
     FakeWorkspace();

@@ -4,7 +4,7 @@
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/ui/Twips.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "documents/DocumentList.h"
 #include "documents/DroppedFile.h"
 #include "documents/FileRegistry.h"
@@ -341,7 +341,7 @@ void DocumentWindow::updatePosition()
 {
     const QString text = positionText();
     emit positionChanged(text);
-    core::Workspace *ws = core::Workspace::instance();
+    documents::Workspace *ws = documents::Workspace::instance();
     if (ws && ws->activeDocument() == this)
         ws->setPositionText(text);
 }

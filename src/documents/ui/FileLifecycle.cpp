@@ -1,9 +1,9 @@
 #include "documents/ui/FileLifecycle.h"
 
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/Main.h"
-#include "core/ui/MainWindow.h"
+#include "core/ui/Shell.h"
+#include "core/ui/StartupSteps.h"
 #include "documents/AutoSave.h"
 #include "documents/DocumentList.h"
 #include "documents/NewDocument.h"
@@ -15,6 +15,7 @@
 #include "documents/ui/frmTemplate.h"
 
 #include <QAction>
+#include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QTimer>
 
@@ -24,9 +25,9 @@ namespace {
 
 constexpr int kAutoSaveInterval = 60000;
 
-void startAutoSave(core::ui::frmMain &window)
+void startAutoSave(QObject *window)
 {
-    auto *timer = new QTimer(&window);
+    auto *timer = new QTimer(window);
     timer->setObjectName(QStringLiteral("timAutoSave"));
     timer->setInterval(kAutoSaveInterval);
     QObject::connect(timer, &QTimer::timeout, timer, [] { AutoSaveTick(); });
@@ -52,16 +53,16 @@ void newStartupDocument()
 
 void updatePositionPanel()
 {
-    core::Workspace *ws = core::Workspace::instance();
-    if (auto *doc = dynamic_cast<DocumentWindow *>(core::Workspace::CurrentDocument()))
+    documents::Workspace *ws = documents::Workspace::instance();
+    if (auto *doc = dynamic_cast<DocumentWindow *>(documents::Workspace::CurrentDocument()))
         ws->setPositionText(doc->positionText());
 }
 
 } // namespace
 
-void InstallFileLifecycle(core::ui::frmMain &window)
+void InstallFileLifecycle(core::ui::Shell &shell)
 {
-    core::ui::CommandTable *commands = &window.commands();
+    core::ui::CommandTable *commands = &shell.commands();
     recentFileView() = [commands](int n, const QString &caption) {
         if (QAction *a = commands->action(QStringLiteral("FileRecent") + QString::number(n))) {
             a->setText(caption);
@@ -70,12 +71,14 @@ void InstallFileLifecycle(core::ui::frmMain &window)
     };
     documentHooks().addRecentFile = [](const QString &path) { AddRecentFile(path); };
 
-    core::ui::StartupSteps &steps = core::ui::startupSteps();
-    steps.loadRecentFiles = [](core::ui::frmMain &) { LoadRecentFiles(); };
-    steps.autoSaveTick = [](core::ui::frmMain &w) { startAutoSave(w); };
-    steps.newDocument = [] { newStartupDocument(); };
+    using core::ui::StartupStep;
+    core::ui::StartupSteps &steps = shell.startupSteps();
+    QMainWindow *window = shell.mainWindow();
+    steps.add(StartupStep::MainWindowLoaded, [window] { startAutoSave(window); });
+    steps.add(StartupStep::RecentFiles, [] { LoadRecentFiles(); });
+    steps.add(StartupStep::NewDocument, [] { newStartupDocument(); });
 
-    AcceptFileDrops(&window, [](const QString &path) { OpenDocumentFile(path); });
+    AcceptFileDrops(window, [](const QString &path) { OpenDocumentFile(path); });
 }
 
 void mnuNew_Click(QWidget *parent)
@@ -88,7 +91,7 @@ void mnuNew_Click(QWidget *parent)
 
 void mnuSaveTemplate_Click(QWidget *parent)
 {
-    Document *doc = core::Workspace::CurrentDocument();
+    Document *doc = documents::Workspace::CurrentDocument();
     if (!doc)
         return;
     frmTemplate dialog(parent);

@@ -3,7 +3,7 @@
 class QWidget;
 
 namespace qly::core::ui {
-class frmMain;
+class Shell;
 }
 
 namespace qly::documents::ui {
@@ -13,7 +13,7 @@ namespace qly::documents::ui {
 // (timAutoSave, 60000 ms, a child of the window), the start-up's new
 // document, the recent-file hook of saving, and files dropped onto the
 // window, which open as documents.
-void InstallFileLifecycle(core::ui::frmMain &window);
+void InstallFileLifecycle(core::ui::Shell &shell);
 
 // File menu commands with a window.
 void mnuNew_Click(QWidget *parent);

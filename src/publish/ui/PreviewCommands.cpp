@@ -1,10 +1,10 @@
 #include "publish/ui/PreviewCommands.h"
 
 #include "core/OptionsHooks.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/Main.h"
-#include "core/ui/MainWindow.h"
+#include "core/ui/Shell.h"
+#include "core/ui/StartupSteps.h"
 #include "documents/ui/DocumentWindow.h"
 #include "platform/Prompts.h"
 #include "publish/FindBrowsers.h"
@@ -12,6 +12,7 @@
 #include "publish/ui/frmBrowser.h"
 
 #include <QAction>
+#include <QMainWindow>
 #include <QDesktopServices>
 #include <QPointer>
 #include <QUrl>
@@ -24,7 +25,7 @@ namespace {
 
 void onPreviewTab(DocumentWindow::BrowserCommand command)
 {
-    if (auto *window = dynamic_cast<DocumentWindow *>(core::Workspace::CurrentDocument()))
+    if (auto *window = dynamic_cast<DocumentWindow *>(documents::Workspace::CurrentDocument()))
         window->runBrowserCommand(command);
 }
 
@@ -45,8 +46,10 @@ void LoadBrowserMenu(core::ui::CommandTable &table)
     }
 }
 
-void InstallPreviewCommands(core::ui::CommandTable &t, core::ui::frmMain &w)
+void registerPublishCommands(core::ui::Shell &shell)
 {
+    core::ui::CommandTable &t = shell.commands();
+    QWidget *w = shell.mainWindow();
     systemUrlOpener() = [](const QString &url) { return QDesktopServices::openUrl(QUrl(url)); };
 
     for (int i = 0; i < 4; ++i) {
@@ -54,7 +57,7 @@ void InstallPreviewCommands(core::ui::CommandTable &t, core::ui::frmMain &w)
         t.bind(name, [&t, name] { PreviewDocument(t.action(name)->data().toString()); });
     }
     t.bind(QStringLiteral("PreviewAll"), [] { PreviewDocument(QString(), QStringLiteral("ALL")); });
-    auto preview = [&w] { tlbPreview_Click([&w] { frmBrowser::choose(&w); }); };
+    auto preview = [w] { tlbPreview_Click([w] { frmBrowser::choose(w); }); };
     t.bind(QStringLiteral("tlbPreview"), preview);
     t.bind(QStringLiteral("mnuPrintPreview"), preview);
 
@@ -80,11 +83,12 @@ void InstallPreviewCommands(core::ui::CommandTable &t, core::ui::frmMain &w)
         if (table)
             LoadBrowserMenu(*table);
     };
-    core::ui::startupSteps().loadBrowserMenu = [rebuild](core::ui::frmMain &) { rebuild(); };
-    core::ui::startupSteps().findBrowsers = [rebuild](core::ui::frmMain &) {
+    using core::ui::StartupStep;
+    shell.startupSteps().add(StartupStep::BrowserMenu, rebuild);
+    shell.startupSteps().add(StartupStep::FindBrowsers, [rebuild] {
         FindBrowsers();
         rebuild();
-    };
+    });
     core::optionsHooks().loadBrowserMenu = rebuild;
     core::optionsHooks().findBrowsers = [] { FindBrowsers(); };
     LoadBrowserMenu(t);

@@ -1,8 +1,8 @@
 #include "core/Globals.h"
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/Main.h"
-#include "core/ui/MainWindow.h"
+#include "core/ui/StartupSteps.h"
+#include "app/MainWindow.h"
 #include "documents/AutoSave.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
@@ -42,16 +42,15 @@ private slots:
 private:
     std::unique_ptr<test::TestEnv> m_env;
     std::unique_ptr<test::ScriptedPrompts> m_prompts;
-    std::unique_ptr<core::ui::frmMain> m_window;
+    std::unique_ptr<app::frmMain> m_window;
 };
 
 void tst_FileWindow::init()
 {
     m_env = std::make_unique<test::TestEnv>();
     m_prompts = std::make_unique<test::ScriptedPrompts>();
-    m_window = std::make_unique<core::ui::frmMain>();
-    core::Workspace::setInstance(m_window.get());
-    documents::ui::InstallFileLifecycle(*m_window);
+    m_window = std::make_unique<app::frmMain>();
+    documents::Workspace::setInstance(m_window.get());
     m_window->resize(1000, 800);
     m_window->show();
 }
@@ -65,7 +64,6 @@ void tst_FileWindow::cleanup()
     documents::documentHooks() = {};
     documents::recentFileView() = nullptr;
     documents::autoSaveTimerSwitch() = nullptr;
-    core::ui::startupSteps() = {};
     m_prompts.reset();
     m_env.reset();
 }
@@ -93,7 +91,7 @@ void tst_FileWindow::roundTripIsByteExact()
     QFETCH(QByteArray, bytes);
     const QString path = m_env->write(QStringLiteral("file.htm"), bytes);
     QVERIFY(documents::OpenDocumentFile(path));
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     QVERIFY(doc);
     QVERIFY(dynamic_cast<documents::ui::ScintillaEdit *>(&doc->txtDoc()));
     QVERIFY(!doc->txtDoc().Dirty());
@@ -138,15 +136,17 @@ void tst_FileWindow::recentEntriesInTheFileMenu()
 
 void tst_FileWindow::startupDocumentAndTimer()
 {
-    core::ui::StartupSteps &steps = core::ui::startupSteps();
-    QVERIFY(steps.newDocument && steps.autoSaveTick && steps.loadRecentFiles);
-    steps.newDocument();
-    documents::Document *doc = core::Workspace::CurrentDocument();
+    using core::ui::StartupStep;
+    core::ui::StartupSteps &steps = m_window->startupSteps();
+    QVERIFY(steps.has(StartupStep::NewDocument) && steps.has(StartupStep::MainWindowLoaded)
+            && steps.has(StartupStep::RecentFiles));
+    steps.run(StartupStep::NewDocument);
+    documents::Document *doc = documents::Workspace::CurrentDocument();
     QVERIFY(doc);
     QCOMPARE(doc->caption(), QStringLiteral("Untitled-1"));
     QCOMPARE(m_window->mdiArea()->activeSubWindow()->size(), QSize(500, 400));
 
-    steps.autoSaveTick(*m_window);
+    steps.run(StartupStep::MainWindowLoaded);
     auto *timer = m_window->findChild<QTimer *>(QStringLiteral("timAutoSave"));
     QVERIFY(timer);
     QCOMPARE(timer->interval(), 60000);

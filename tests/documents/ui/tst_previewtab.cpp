@@ -1,8 +1,8 @@
 // The preview tab needs a real display for its browser engine: this test
 // runs under Xvfb (see tests/CMakeLists.txt).
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/MainWindow.h"
+#include "app/MainWindow.h"
 #include "documents/DocumentList.h"
 #include "documents/ui/DocumentWindow.h"
 #include "platform/HTMLEdit.h"
@@ -35,15 +35,15 @@ private:
 
     std::unique_ptr<test::TestEnv> m_env;
     std::unique_ptr<test::ScriptedPrompts> m_prompts;
-    std::unique_ptr<core::ui::frmMain> m_main;
+    std::unique_ptr<app::frmMain> m_main;
 };
 
 void tst_PreviewTab::init()
 {
     m_env = std::make_unique<test::TestEnv>();
     m_prompts = std::make_unique<test::ScriptedPrompts>();
-    m_main = std::make_unique<core::ui::frmMain>();
-    core::Workspace::setInstance(m_main.get());
+    m_main = std::make_unique<app::frmMain>();
+    documents::Workspace::setInstance(m_main.get());
     m_main->resize(900, 700);
     m_main->show();
 }
@@ -53,7 +53,7 @@ void tst_PreviewTab::cleanup()
     for (documents::Document *d : m_main->documentList())
         m_main->unloadDocument(d);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    core::Workspace::setInstance(nullptr);
+    documents::Workspace::setInstance(nullptr);
     m_main.reset();
     m_prompts.reset();
     m_env.reset();

@@ -1,7 +1,7 @@
 #include "core/Feedback.h"
 #include "core/Globals.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/MainWindow.h"
+#include "app/MainWindow.h"
 #include "documents/DocumentList.h"
 #include "documents/ui/DocumentWindow.h"
 #include "documents/ui/ScintillaEdit.h"
@@ -23,8 +23,8 @@ private slots:
 void tst_FormatCommands::commandsOnRealControl()
 {
     test::TestEnv env;
-    core::ui::frmMain w;
-    core::Workspace::setInstance(&w);
+    app::frmMain w;
+    documents::Workspace::setInstance(&w);
     auto *doc = dynamic_cast<documents::ui::DocumentWindow *>(documents::CreateDocumentWindow());
     QVERIFY(doc);
     core::EndWait();
@@ -51,7 +51,7 @@ void tst_FormatCommands::commandsOnRealControl()
     QVERIFY(w.commands().run(QStringLiteral("EditUndo")));
     QCOMPARE(view->text(), before);
 
-    core::Workspace::setInstance(nullptr);
+    documents::Workspace::setInstance(nullptr);
 }
 
 QTEST_MAIN(tst_FormatCommands)

@@ -1,4 +1,4 @@
-#include "core/ui/TermSignal.h"
+#include "app/TermSignal.h"
 
 #include <QSocketNotifier>
 
@@ -6,7 +6,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-namespace qly::core::ui {
+namespace qly::app {
+
 
 namespace {
 
@@ -47,4 +48,4 @@ TermSignal::~TermSignal()
     signal(SIGHUP, SIG_DFL);
 }
 
-} // namespace qly::core::ui
+} // namespace qly::app

@@ -1,25 +1,27 @@
-#include "core/ui/MainWindow.h"
+#include "app/MainWindow.h"
+
+#include "app/Commands.h"
+#include "app/ResourceManager.h"
 
 #include "core/Feedback.h"
 #include "core/FileIo.h"
 #include "core/Globals.h"
 #include "core/Paths.h"
-#include "core/Shutdown.h"
+#include "core/Settings.h"
 #include "core/Startup.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/Commands.h"
-#include "core/Settings.h"
-#include "core/ui/ResourceManager.h"
 #include "core/ui/StatusPanels.h"
 #include "core/ui/Toolbars.h"
+#include "core/ui/Twips.h"
 #include "core/ui/frmCustomize.h"
 #include "documents/Coloring.h"
 #include "documents/DocumentList.h"
-#include "platform/HTMLEdit.h"
-#include "core/ui/Twips.h"
 #include "documents/ui/DocumentWindow.h"
 #include "documents/ui/ScintillaEdit.h"
+#include "platform/HTMLEdit.h"
+
+#include <Qsci/qsciscintilla.h>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -31,8 +33,10 @@
 #include <QTabWidget>
 #include <QStatusBar>
 
-namespace qly::core::ui {
+namespace qly::app {
 
+using namespace core;
+using namespace core::ui;
 using documents::ui::DocumentWindow;
 
 frmMain::frmMain(QWidget *parent)
@@ -46,7 +50,7 @@ frmMain::frmMain(QWidget *parent)
     setCentralWidget(m_mdi);
     m_panels = new StatusPanels(statusBar());
     connect(m_mdi, &QMdiArea::subWindowActivated, this, &frmMain::onSubWindowActivated);
-    registerCommands(*m_commands, *this);
+    registerCommands(*this);
     m_toolbars = new Toolbars(*this, *m_commands);
     m_picDocs = new ResourceManager(this);
     addDockWidget(Qt::LeftDockWidgetArea, m_picDocs);
@@ -68,13 +72,12 @@ frmMain::frmMain(QWidget *parent)
     connect(m_panels, &StatusPanels::panelClicked, this, &frmMain::sbStatus_PanelClick);
     buildMenus();
     buildPopupMenu();
-    shutdownHooks().storeWindowState = [this] { StoreDisplayState(); };
 }
 
 frmMain::~frmMain()
 {
-    if (Workspace::instance() == this)
-        Workspace::setInstance(nullptr);
+    if (documents::Workspace::instance() == this)
+        documents::Workspace::setInstance(nullptr);
 }
 
 void frmMain::buildMenus()
@@ -150,8 +153,40 @@ void frmMain::setPositionText(const QString &text)
 void frmMain::onSubWindowActivated(QMdiSubWindow *sub)
 {
     auto *doc = sub ? qobject_cast<DocumentWindow *>(sub->widget()) : nullptr;
-    if (doc)
-        m_panels->setPosition(doc->positionText());
+    if (!doc)
+        return;
+    m_panels->setPosition(doc->positionText());
+    focusDocument();
+}
+
+void frmMain::bringToFront()
+{
+    if (isMinimized())
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+void frmMain::focusDocument()
+{
+    // A dialog or a list of the program that has the keyboard keeps it.
+    QWidget *focus = QApplication::focusWidget();
+    if (focus && focus->window() != this)
+        return;
+    if (auto *doc = dynamic_cast<DocumentWindow *>(activeDocument()))
+        doc->edit()->view()->setFocus(Qt::OtherFocusReason);
+}
+
+void frmMain::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    // Coming back to the window puts the keyboard in the document, unless a
+    // control of the window itself had it.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        QWidget *focus = QApplication::focusWidget();
+        if (!focus || focus == this || focus == m_mdi || qobject_cast<QMdiSubWindow *>(focus))
+            focusDocument();
+    }
 }
 
 void frmMain::InitMainWindow()
@@ -222,8 +257,8 @@ void frmMain::sbStatus_PanelClick(const QString &key)
         gColorHTML = true;
         documents::ChangeColoring(syntax ? platform::ColorTagSyntax : platform::ColorEntireTags);
         documents::ColorAll();
-    } else if (key == QLatin1String("DateTime") && insertDateTime) {
-        insertDateTime();
+    } else if (key == QLatin1String("DateTime")) {
+        m_commands->run(QStringLiteral("InsertDate2"));   // long date and time
     }
 }
 
@@ -280,13 +315,21 @@ void frmMain::UnloadAllForms()
         ShowStatus(QStringLiteral("Unloading ") + doc->caption());
         doc->closeWithoutQuery();
     }
+    m_unloaded = true;
     QCoreApplication::quit();
 }
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
+    if (m_startingUp && gStartupPassed) {
+        // Start-up is in the middle of a step (a page may be loading):
+        // the close runs as soon as that step is over.
+        m_closePending = true;
+        event->ignore();
+        return;
+    }
     SaveMainWindowState();
-    if (!CloseEverything()) {
+    if (!CloseEverything(*this)) {
         event->ignore();
         DoEvents();
         return;
@@ -294,4 +337,16 @@ void frmMain::closeEvent(QCloseEvent *event)
     event->accept();
 }
 
-} // namespace qly::core::ui
+bool frmMain::runPendingClose()
+{
+    if (!m_closePending)
+        return m_unloaded;
+    m_closePending = false;
+    const bool starting = m_startingUp;
+    m_startingUp = false;
+    close();
+    m_startingUp = starting && !m_unloaded;
+    return m_unloaded;
+}
+
+} // namespace qly::app

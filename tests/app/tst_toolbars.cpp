@@ -5,8 +5,8 @@
 #include "core/Settings.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/MainWindow.h"
-#include "core/ui/ResourceManager.h"
+#include "app/MainWindow.h"
+#include "app/ResourceManager.h"
 #include "core/ui/StatusPanels.h"
 #include "core/ui/Toolbars.h"
 #include "core/ui/frmCustomize.h"
@@ -28,7 +28,7 @@
 #include <QtTest>
 
 using namespace qly;
-using core::ui::frmMain;
+using app::frmMain;
 
 class tst_Toolbars : public QObject
 {
@@ -53,7 +53,7 @@ private:
 void tst_Toolbars::newMain()
 {
     m_main = std::make_unique<frmMain>();
-    core::Workspace::setInstance(m_main.get());
+    documents::Workspace::setInstance(m_main.get());
     m_main->resize(1000, 700);
     m_main->show();
 }

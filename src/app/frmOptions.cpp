@@ -1,9 +1,9 @@
-#include "core/ui/frmOptions.h"
+#include "app/frmOptions.h"
 
 #include "core/OptionsHooks.h"
-#include "core/Workspace.h"
-#include "core/ui/Main.h"
-#include "core/ui/MainWindow.h"
+#include "documents/Workspace.h"
+#include "app/Main.h"
+#include "app/MainWindow.h"
 #include "documents/Document.h"
 #include "documents/ui/EditColors.h"
 #include "platform/HTMLEdit.h"
@@ -26,7 +26,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace qly::core::ui {
+namespace qly::app {
+
+using namespace core;
 
 namespace {
 
@@ -194,24 +196,11 @@ void frmOptions::sendHelpKey()
 
 void ShowOptions(frmMain &main, OptionsTab tab)
 {
-    // Parts of the editor that only know the start-up steps serve the dialog too.
-    OptionsHooks &hooks = optionsHooks();
-    StartupSteps &steps = startupSteps();
-    if (!hooks.tagTreeSettings && steps.setupTagTree)
-        hooks.tagTreeSettings = [&main] { startupSteps().setupTagTree(main); };
-    if (!hooks.loadBrowserMenu && steps.loadBrowserMenu)
-        hooks.loadBrowserMenu = [&main] { startupSteps().loadBrowserMenu(main); };
-    if (!hooks.findBrowsers && steps.findBrowsers)
-        hooks.findBrowsers = [&main] { startupSteps().findBrowsers(main); };
-
     frmOptions dialog(&main);
     dialog.showTab(tab);
     dialog.adjustSize();
     dialog.move(main.geometry().center() - dialog.rect().center());
-    if (dialog.exec() == QDialog::Accepted) {
-        if (documents::Document *doc = Workspace::CurrentDocument())
-            doc->txtDoc().SetFocus();
-    }
+    dialog.exec();
 }
 
-} // namespace qly::core::ui
+} // namespace qly::app

@@ -20,11 +20,11 @@ namespace qly::publish::ui {
 class AliasEditor;
 }
 
-namespace qly::core::ui {
+namespace qly::app {
 
 class frmMain;
 
-// "Quillery Options": the eight tabs over OptionsModel. The widgets only
+// "Quillery Options": the eight tabs over core::OptionsModel. The widgets only
 // show and edit the model's fields; OK commits the model, Cancel drops it.
 class frmOptions : public QDialog
 {
@@ -32,8 +32,8 @@ class frmOptions : public QDialog
 public:
     explicit frmOptions(QWidget *parent = nullptr);
 
-    OptionsModel &model() { return m_model; }
-    void showTab(OptionsTab tab);
+    core::OptionsModel &model() { return m_model; }
+    void showTab(core::OptionsTab tab);
 
 public slots:
     void accept() override;
@@ -51,9 +51,9 @@ private:
     QWidget *buildSpelling();
     QWidget *buildSaveStart();
     QWidget *buildBrowsers();
-    QWidget *page(OptionsTab tab);
+    QWidget *page(core::OptionsTab tab);
     // The check boxes of `tab`; with `section`, only those stored there.
-    void addChecks(QBoxLayout *layout, OptionsTab tab, QLatin1String section = {});
+    void addChecks(QBoxLayout *layout, core::OptionsTab tab, QLatin1String section = {});
     QComboBox *combo(const QString &name, const QStringList &items, bool editable);
     // "name(i)", the name of a control in an array of controls.
     static QString indexed(const char *control, int i);
@@ -67,9 +67,9 @@ private:
     void pickColour(int index);
     void sendHelpKey();
 
-    OptionsModel m_model;
+    core::OptionsModel m_model;
     QTabWidget *m_tabs = nullptr;
-    std::array<QCheckBox *, kOptionCheckCount> m_checks{};
+    std::array<QCheckBox *, core::kOptionCheckCount> m_checks{};
     QComboBox *m_bigLetter = nullptr;
     QComboBox *m_anchor = nullptr;
     QComboBox *m_fontName = nullptr;
@@ -79,9 +79,9 @@ private:
     QLineEdit *m_autoSave = nullptr;
     QCheckBox *m_scoutCheck = nullptr;
     QLineEdit *m_scout = nullptr;
-    std::array<QLineEdit *, kLocationCount> m_files{};
+    std::array<QLineEdit *, core::kLocationCount> m_files{};
     std::array<QLineEdit *, 2> m_dictionaries{};
-    std::array<QToolButton *, kColourCount> m_colours{};
+    std::array<QToolButton *, core::kColourCount> m_colours{};
     QGroupBox *m_colourFrame = nullptr;
     QListWidget *m_browsers = nullptr;
     QPushButton *m_deleteBrowser = nullptr;
@@ -89,6 +89,6 @@ private:
 };
 
 // Tools, Options...: the dialog over the main window, opened on `tab`.
-void ShowOptions(frmMain &main, OptionsTab tab = OptionsTab::General);
+void ShowOptions(frmMain &main, core::OptionsTab tab = core::OptionsTab::General);
 
-} // namespace qly::core::ui
+} // namespace qly::app

@@ -1,7 +1,7 @@
 // The tabs of frmOptions that shape the editing: general, editing,
 // colouring and display. Widgets carry the system's control names as
 // object names.
-#include "core/ui/frmOptions.h"
+#include "app/frmOptions.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,7 +14,10 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace qly::core::ui {
+namespace qly::app {
+
+using namespace core;
+
 
 QString frmOptions::indexed(const char *control, int i)
 {
@@ -166,4 +169,4 @@ QWidget *frmOptions::buildDisplay()
     return w;
 }
 
-} // namespace qly::core::ui
+} // namespace qly::app

@@ -5,7 +5,7 @@
 
 class QSocketNotifier;
 
-namespace qly::core::ui {
+namespace qly::app {
 
 // Turns SIGTERM and SIGHUP into a call on the event loop, so that they take
 // the ordinary way out of the program.
@@ -21,4 +21,4 @@ private:
     QSocketNotifier *m_notifier = nullptr;
 };
 
-} // namespace qly::core::ui
+} // namespace qly::app

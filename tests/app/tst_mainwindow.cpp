@@ -4,7 +4,7 @@
 #include "core/Feedback.h"
 #include "core/StatusText.h"
 #include "core/ui/CommandTable.h"
-#include "core/ui/MainWindow.h"
+#include "app/MainWindow.h"
 #include "core/ui/StatusPanels.h"
 #include "documents/DocumentList.h"
 #include "documents/ui/DocumentWindow.h"
@@ -34,19 +34,20 @@ private slots:
     void closeAsksAboutChangedDocuments();
     void commandsReachTheActiveDocument();
     void statusTextClearsAfterFourSeconds();
+    void closeDuringStartupWaitsForTheStep();
 
 private:
     std::unique_ptr<test::TestEnv> m_env;
     std::unique_ptr<test::ScriptedPrompts> m_prompts;
-    std::unique_ptr<core::ui::frmMain> m_main;
+    std::unique_ptr<app::frmMain> m_main;
 };
 
 void tst_MainWindow::init()
 {
     m_env = std::make_unique<test::TestEnv>();
     m_prompts = std::make_unique<test::ScriptedPrompts>();
-    m_main = std::make_unique<core::ui::frmMain>();
-    core::Workspace::setInstance(m_main.get());
+    m_main = std::make_unique<app::frmMain>();
+    documents::Workspace::setInstance(m_main.get());
     m_main->resize(900, 700);
     m_main->show();
 }
@@ -165,6 +166,42 @@ void tst_MainWindow::statusTextClearsAfterFourSeconds()
     QCOMPARE(status.text(), QStringLiteral("Working"));
     QTRY_COMPARE_WITH_TIMEOUT(m_main->statusPanels().panel(QStringLiteral("Status"))->text(), QString(), 6000);
     QVERIFY(!status.clearPending());
+}
+
+void tst_MainWindow::closeDuringStartupWaitsForTheStep()
+{
+    const QString file = m_env->write(QStringLiteral("c.html"), "c");
+    QVERIFY(documents::OpenDocumentFile(file));
+    m_main->activeDocument()->txtDoc().setSelText(QStringLiteral("x"));
+    m_main->setStartingUp(true);
+
+    // Before start-up has passed, the close is refused with its box.
+    core::gStartupPassed = false;
+    m_main->close();
+    QCOMPARE(m_prompts->texts().last(), QStringLiteral(
+        "Quillery has not yet finished its startup process. Please try again in a few seconds "));
+    QVERIFY(!m_main->runPendingClose());
+    QVERIFY(m_main->isVisible());
+
+    // Later, it waits for the step at hand and then asks as usual: a cancel
+    // keeps everything, and a second close ends the program.
+    core::gStartupPassed = true;
+    const qsizetype shown = m_prompts->shown.size();
+    m_main->close();
+    QVERIFY(m_main->isVisible());
+    QCOMPARE(m_prompts->shown.size(), shown);
+    m_prompts->answer(platform::Answer::Cancel);
+    QVERIFY(!m_main->runPendingClose());
+    QCOMPARE(m_prompts->texts().last(), QStringLiteral("Do you want to save ") + file + u'?');
+    QCOMPARE(m_main->documentList().size(), 1);
+    QVERIFY(!m_main->unloaded());
+
+    m_main->close();
+    m_prompts->answer(platform::Answer::No);
+    QVERIFY(m_main->runPendingClose());
+    QVERIFY(m_main->unloaded());
+    QCOMPARE(m_main->documentList().size(), 0);
+    QCOMPARE(m_env->read(file), QByteArray("c"));
 }
 
 QTEST_MAIN(tst_MainWindow)

@@ -1,4 +1,4 @@
-#include "core/ui/ResourceManager.h"
+#include "app/ResourceManager.h"
 
 #include "core/Settings.h"
 #include "documents/FileFilter.h"
@@ -11,7 +11,9 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-namespace qly::core::ui {
+namespace qly::app {
+
+using namespace core;
 
 ResourceManager::ResourceManager(QWidget *parent)
     : QDockWidget(tr("Resource Manager"), parent)
@@ -115,4 +117,4 @@ void ResourceManager::applyFileType()
     m_files->setNameFilters(filters);
 }
 
-} // namespace qly::core::ui
+} // namespace qly::app

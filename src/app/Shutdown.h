@@ -1,22 +1,22 @@
 #pragma once
 
-#include <functional>
+namespace qly::app {
 
-namespace qly::core {
-
-// What the window side adds to the close.
-struct ShutdownHooks {
+// What the close asks of the main window.
+class ClosingWindow
+{
+public:
+    virtual ~ClosingWindow() = default;
     // Stores the state of panels that only the main window knows.
-    std::function<void()> storeWindowState;
-    // Closes every window and ends the event loop.
-    std::function<void()> unloadAllForms;
+    virtual void StoreDisplayState() = 0;
+    // Closes every window and ends the program.
+    virtual void UnloadAllForms() = 0;
 };
-ShutdownHooks &shutdownHooks();
 
 // The end of the program: refuses before start-up has passed, asks about
 // every changed document (a cancel keeps the program up), sweeps temporary
 // files and auto-save files of the current directory, and unloads all.
 // False when the close was refused or cancelled.
-bool CloseEverything();
+bool CloseEverything(ClosingWindow &window);
 
-} // namespace qly::core
+} // namespace qly::app

@@ -1,6 +1,6 @@
 // The tabs of frmOptions that name files and programs: directories,
 // dictionaries, start-up and saving, browsers and publishing.
-#include "core/ui/frmOptions.h"
+#include "app/frmOptions.h"
 
 #include "core/OptionsHooks.h"
 
@@ -18,7 +18,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace qly::core::ui {
+namespace qly::app {
+
+using namespace core;
 
 QWidget *frmOptions::buildDirectories()
 {
@@ -150,4 +152,4 @@ QWidget *frmOptions::buildBrowsers()
     return w;
 }
 
-} // namespace qly::core::ui
+} // namespace qly::app

@@ -1,5 +1,5 @@
 #include "core/Settings.h"
-#include "core/ui/frmOptions.h"
+#include "app/frmOptions.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -48,7 +48,7 @@ void tst_frmOptions::showsTheStoredSettings()
     env.write(QStringLiteral("quillery.ini"),
               "[General]\r\nTarget=id\r\nRestore Last Session=yes\r\nAutoSave=10\r\n[Editing]\r\nColor HTML=No\r\n"
               "[File Locations]\r\nDocuments=/home/web\r\n[Publishing]\r\nDefault Extension=shtml\r\n");
-    core::ui::frmOptions d;
+    app::frmOptions d;
     QCOMPARE(d.windowTitle(), QStringLiteral("Quillery Options"));
     auto *tabs = control<QTabWidget>(d, "tbOptions");
     QStringList captions;
@@ -72,7 +72,7 @@ void tst_frmOptions::showsTheStoredSettings()
 void tst_frmOptions::controlsFollowTheirRules()
 {
     test::TestEnv env;
-    core::ui::frmOptions d;
+    app::frmOptions d;
     control<QCheckBox>(d, "chkColourHTML")->setChecked(true);
     QVERIFY(control<QGroupBox>(d, "fraColourHTML")->isEnabled());
 
@@ -98,13 +98,13 @@ void tst_frmOptions::okWritesAndCancelDoesNot()
     test::TestEnv env;
     test::ScriptedPrompts prompts;
     {
-        core::ui::frmOptions d;
+        app::frmOptions d;
         control<QCheckBox>(d, "chkGeneral(2)")->setChecked(false);
         d.reject();
     }
     QVERIFY(!QFile::exists(env.ini()));
 
-    core::ui::frmOptions d;
+    app::frmOptions d;
     control<QCheckBox>(d, "chkGeneral(2)")->setChecked(false);
     control<QCheckBox>(d, "chkShowIE")->setChecked(true);
     auto *minutes = control<QLineEdit>(d, "txtGeneral(0)");
@@ -125,7 +125,7 @@ void tst_frmOptions::defaultBrowserIsMarkedAndWritten()
 {
     test::TestEnv env;
     env.write(QStringLiteral("quillery.ini"), "[Browsers]\r\n1=/usr/bin/a\r\n2=/usr/bin/b\r\n");
-    core::ui::frmOptions d;
+    app::frmOptions d;
     auto *list = control<QListWidget>(d, "lstBrowsers");
     auto *remove = control<QPushButton>(d, "cmdDelete");
     QCOMPARE(list->count(), 2);

@@ -7,7 +7,7 @@ class QFileSystemModel;
 class QTabWidget;
 class QTreeView;
 
-namespace qly::core::ui {
+namespace qly::app {
 
 // The resource manager at the left of the main window: the tabs "Files",
 // "Website", "Tags" and "Bookmarks".
@@ -39,4 +39,4 @@ private:
     QTreeView *m_adcFiles = nullptr;
 };
 
-} // namespace qly::core::ui
+} // namespace qly::app

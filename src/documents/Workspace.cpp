@@ -1,6 +1,8 @@
-#include "core/Workspace.h"
+#include "documents/Workspace.h"
 
-namespace qly::core {
+#include "documents/DocumentOptions.h"
+
+namespace qly::documents {
 
 namespace {
 Workspace *g_workspace = nullptr;
@@ -14,11 +16,13 @@ Workspace *Workspace::instance()
 void Workspace::setInstance(Workspace *workspace)
 {
     g_workspace = workspace;
+    if (workspace)
+        InstallDocumentOptionHooks();
 }
 
-documents::Document *Workspace::CurrentDocument()
+Document *Workspace::CurrentDocument()
 {
     return g_workspace ? g_workspace->activeDocument() : nullptr;
 }
 
-} // namespace qly::core
+} // namespace qly::documents

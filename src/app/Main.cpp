@@ -1,18 +1,17 @@
-#include "core/ui/Main.h"
+#include "app/Main.h"
 
+#include "app/MainWindow.h"
+#include "app/SingleInstance.h"
+#include "app/TermSignal.h"
 #include "core/Feedback.h"
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
-#include "core/Shutdown.h"
 #include "core/Startup.h"
-#include "core/ui/MainWindow.h"
-#include "core/ui/SingleInstance.h"
-#include "core/ui/StatusPanels.h"
 #include "core/ui/Splash.h"
-#include "core/ui/TermSignal.h"
-#include "documents/Document.h"
-#include "documents/ui/FileLifecycle.h"
+#include "core/ui/StatusPanels.h"
+#include "documents/DocumentList.h"
+#include "documents/StartupDocuments.h"
 #include "platform/ui/QtPrompts.h"
 
 #include <QApplication>
@@ -21,21 +20,12 @@
 
 #include <unistd.h>
 
-namespace qly::core::ui {
+namespace qly::app {
 
-StartupSteps &startupSteps()
-{
-    static StartupSteps steps;
-    return steps;
-}
+using namespace core;
+using core::ui::StartupStep;
 
 namespace {
-
-void step(const std::function<void(frmMain &)> &f, frmMain &w)
-{
-    if (f)
-        f(w);
-}
 
 QString commandLineOf(int argc, char **argv)
 {
@@ -52,11 +42,43 @@ void loadMainWindow(frmMain &w)
     w.InitMainWindow();
     w.show();
     gMainReady = true;
-    step(startupSteps().autoSaveTick, w);
+    w.startupSteps().run(StartupStep::MainWindowLoaded);
     w.DrawMainScreen();
-    step(startupSteps().drawMainScreen, w);
-    step(startupSteps().loadPlugIns, w);
 }
+
+// Files that other copies handed over: opened at once once start-up is
+// over, kept until then.
+class HandedFiles
+{
+public:
+    explicit HandedFiles(frmMain &window) : m_window(window) {}
+    void receive(const QString &file)
+    {
+        if (m_ready)
+            open(file);
+        else
+            m_waiting << file;
+    }
+    void startupDone()
+    {
+        m_ready = true;
+        for (const QString &file : std::exchange(m_waiting, {}))
+            open(file);
+    }
+
+private:
+    void open(const QString &file)
+    {
+        m_window.bringToFront();
+        if (!file.isEmpty())
+            documents::OpenDocumentFile(file);
+        m_window.focusDocument();
+    }
+
+    frmMain &m_window;
+    QStringList m_waiting;
+    bool m_ready = false;
+};
 
 } // namespace
 
@@ -69,6 +91,8 @@ int Main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillery"));
     QApplication::setApplicationVersion(QStringLiteral("4.01"));
+    // Every window is closed by the program's own exit, which ends the loop.
+    app.setQuitOnLastWindowClosed(false);
 
     platform::ui::QtPrompts prompts;
     platform::setPrompts(&prompts);
@@ -80,12 +104,12 @@ int Main(int argc, char **argv)
     // 2. The main window loads, with its settings from that file.
     frmMain window;
     prompts.setParent(&window);
-    Workspace::setInstance(&window);
-    documents::ui::InstallFileLifecycle(window);
+    documents::Workspace::setInstance(&window);
+    window.setStartingUp(true);
     loadMainWindow(window);
 
     // 3. The splash stays until the tag tree is up.
-    Splash splash;
+    core::ui::Splash splash;
     splash.show();
     DoEvents();
 
@@ -96,9 +120,7 @@ int Main(int argc, char **argv)
     const QString commandLine = commandLineOf(argc, argv);
 
     // 5. - 7.
-    step(startupSteps().restoreSplits, window);
-    step(startupSteps().loadBrowserMenu, window);
-    step(startupSteps().loadFilterMenu, window);
+    window.startupSteps().run(StartupStep::BrowserMenu);
     gStylesDir = JoinPath(ProgramDirectory(), QStringLiteral("Styles"));
     QDir().mkpath(gStylesDir);
 
@@ -110,40 +132,50 @@ int Main(int argc, char **argv)
     }
     gTrapErrors = ReadSettingFlag(QStringLiteral("Debug"), QStringLiteral("Trap Errors"));
 
-    // 11. A second copy ends here, silently.
+    // 11. A second copy hands its file to the first and ends here.
     SingleInstance single;
-    if (single.anotherCopyRunning()) {
+    if (single.anotherCopyRunning(rest, startDir)) {
         EndWait();
         return 0;
     }
+    HandedFiles handed(window);
+    QObject::connect(&single, &SingleInstance::fileHandedOver, &window,
+                     [&handed](const QString &file) { handed.receive(file); });
+
+    // From here a close of the window is the ordinary close; it runs
+    // between two steps, and ends the program without the rest of them.
+    const auto closed = [&window] { return window.runPendingClose(); };
 
     // 12. - 16.
     DoEvents();
     gStartupPassed = true;
-    step(startupSteps().buildTagTree, window);
+    if (closed())
+        return 0;
     BeginWait();
     ReadGlobalEditingFlags();
     window.statusPanels().showColoringMode(ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Quick Color")));
-    step(startupSteps().setupTagTree, window);
     splash.close();
     DoEvents();
+    if (closed())
+        return 0;
 
     // 17. - 20.
     ShowStatus(QStringLiteral("Setting up Toolbars"));
     window.LoadToolbars();
-    step(startupSteps().loadRecentFiles, window);
-    ShowStatus(QStringLiteral("Loading Style Information"));
-    step(startupSteps().loadStyleList, window);
+    window.startupSteps().run(StartupStep::RecentFiles);
     window.setWindowTitle(versionCaption());
     if (ReadSettingFlag(QStringLiteral("Display"), QStringLiteral("Chars List")))
-        step(startupSteps().showEntities, window);
+        window.startupSteps().run(StartupStep::CharsList);
     if (ReadSetting(QStringLiteral("File Locations"), QStringLiteral("Browser")).isEmpty())
-        step(startupSteps().findBrowsers, window);
+        window.startupSteps().run(StartupStep::FindBrowsers);
+    if (closed())
+        return 0;
 
-    // 21. Documents.
-    shutdownHooks().unloadAllForms = [&window] { window.UnloadAllForms(); };
-    documents::documentHooks().openWebsite = startupSteps().openWebsite;
-    OpenStartupDocuments(rest, {startupSteps().newDocument, startupSteps().openWebsite});
+    // 21. Documents; a close may come while one loads.
+    documents::OpenStartupDocuments(rest, {[&window] { window.startupSteps().run(StartupStep::NewDocument); },
+                                           closed});
+    if (closed())
+        return 0;
 
     // 22. - 23.
     QDir::setCurrent(startDir);
@@ -151,19 +183,20 @@ int Main(int argc, char **argv)
     gStartupPassed = true;
     ShowStatus(QString());
     EndWait();
-    if (ReadSettingFlag(QStringLiteral("Handy Hints"), QStringLiteral("Show Hints at Startup")))
-        step(startupSteps().showHints, window);
+    window.setStartingUp(false);
+    window.bringToFront();
+    window.focusDocument();
+    handed.startupDone();
 
     // SIGTERM, SIGHUP and the session's end close the window the ordinary way.
     TermSignal term([&window] { window.close(); });
     QObject::connect(&app, &QGuiApplication::commitDataRequest, &window, [&window](QSessionManager &) {
         window.close();
     });
-    app.setQuitOnLastWindowClosed(false);
-    const int code = app.exec();
+    const int code = window.unloaded() ? 0 : app.exec();
     platform::setPrompts(nullptr);
-    Workspace::setInstance(nullptr);
+    documents::Workspace::setInstance(nullptr);
     return code;
 }
 
-} // namespace qly::core::ui
+} // namespace qly::app

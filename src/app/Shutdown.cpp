@@ -1,4 +1,4 @@
-#include "core/Shutdown.h"
+#include "app/Shutdown.h"
 
 #include "core/Feedback.h"
 #include "core/Globals.h"
@@ -9,15 +9,11 @@
 #include <QDir>
 #include <QFile>
 
-namespace qly::core {
+namespace qly::app {
 
-ShutdownHooks &shutdownHooks()
-{
-    static ShutdownHooks hooks;
-    return hooks;
-}
+using namespace core;
 
-bool CloseEverything()
+bool CloseEverything(ClosingWindow &window)
 {
     static bool running = false;
     if (running)
@@ -29,8 +25,7 @@ bool CloseEverything()
     running = true;
     BeginWait();
     gClosing = true;
-    if (shutdownHooks().storeWindowState)
-        shutdownHooks().storeWindowState();
+    window.StoreDisplayState();
 
     if (!documents::SaveAllDocuments(true, false)) {
         gClosing = false;
@@ -48,10 +43,9 @@ bool CloseEverything()
 
     DoEvents();
     EndWait();
-    if (shutdownHooks().unloadAllForms)
-        shutdownHooks().unloadAllForms();
+    window.UnloadAllForms();
     running = false;
     return true;
 }
 
-} // namespace qly::core
+} // namespace qly::app

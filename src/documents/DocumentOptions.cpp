@@ -1,0 +1,75 @@
+#include "documents/DocumentOptions.h"
+
+#include "core/Globals.h"
+#include "core/OptionsHooks.h"
+#include "core/Settings.h"
+#include "documents/ColorTable.h"
+#include "documents/Document.h"
+#include "documents/DocumentList.h"
+#include "documents/Workspace.h"
+#include "platform/HTMLEdit.h"
+
+#include <QFileInfo>
+
+namespace qly::documents {
+
+namespace {
+
+void applyFont(platform::HTMLEdit &edit)
+{
+    QString name = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Name")).trimmed();
+    if (name.isEmpty())
+        name = QStringLiteral("MS Sans Serif");
+    int size = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Size")).trimmed().toInt();
+    if (size <= 0)
+        size = 10;
+    if (edit.FontName() != name || edit.FontSize() != size)
+        edit.SetFontAndSize(name, size);
+}
+
+void applyColours(platform::HTMLEdit &edit, const platform::ColorTable &table, int mode)
+{
+    if (!core::gColorHTML) {
+        // Colouring switched off stops at once in every window.
+        edit.setColorMode(platform::ColorOff);
+        return;
+    }
+    edit.InitColor(table);
+    if (edit.ColorMode() == platform::ColorOff)
+        edit.setColorMode(mode);
+    edit.ColorHTML();
+}
+
+QString activeDocumentFolder()
+{
+    Document *doc = Workspace::CurrentDocument();
+    if (!doc || doc->LocalFileName.isEmpty())
+        return QString();
+    return QFileInfo(doc->LocalFileName).absolutePath();
+}
+
+} // namespace
+
+void ApplyOptionsToDocuments()
+{
+    const platform::ColorTable table = ColorTableFromSettings();
+    const int mode = core::ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Quick Color"))
+                         ? platform::ColorTagSyntax
+                         : platform::ColorEntireTags;
+    for (Document *doc : AllDocuments()) {
+        platform::HTMLEdit &edit = doc->txtDoc();
+        applyFont(edit);
+        ApplyWordWrap(*doc);
+        applyColours(edit, table, mode);
+    }
+    if (Document *doc = Workspace::CurrentDocument())
+        doc->txtDoc().SetFocus();
+}
+
+void InstallDocumentOptionHooks()
+{
+    core::setActiveDocumentFolder(activeDocumentFolder);
+    core::optionsHooks().applyToDocuments = ApplyOptionsToDocuments;
+}
+
+} // namespace qly::documents
