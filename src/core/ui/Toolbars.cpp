@@ -46,7 +46,7 @@ Toolbars::Toolbars(QMainWindow &window, CommandTable &commands)
             window.addToolBarBreak(Qt::TopToolBarArea);
         auto *bar = new QToolBar(layout.name, &window);
         bar->setObjectName(layout.name);
-        bar->setIconSize(QSize(20, 20));
+        bar->setIconSize(QSize(24, 24));
         window.addToolBar(Qt::TopToolBarArea, bar);
         m_bands.insert(layout.name, bar);
         m_order << layout.name;

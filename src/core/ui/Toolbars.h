@@ -50,8 +50,11 @@ private:
     QComboBox *m_cmbApplyStyle = nullptr;
 };
 
-// A small picture for a tool: the desktop theme's where it has one, else
-// the tool's short label drawn as text.
+// A small picture for a tool: the desktop theme's where the icon naming
+// specification has a fitting name and the theme holds it, else our own.
+// An unknown tool gets a null icon (its button then shows its text).
 QIcon toolIcon(const QString &tool);
+// Our own picture of a tool, whatever the desktop theme.
+QIcon ownToolIcon(const QString &tool);
 
 } // namespace qly::core::ui
