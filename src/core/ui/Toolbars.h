@@ -8,6 +8,7 @@ class QComboBox;
 class QIcon;
 class QMainWindow;
 class QToolBar;
+class QWidgetAction;
 
 namespace qly::core::ui {
 
@@ -48,6 +49,7 @@ private:
     QHash<QString, QStringList> m_shown;
     QStringList m_order;
     QComboBox *m_cmbApplyStyle = nullptr;
+    QWidgetAction *m_applyStyle = nullptr;
 };
 
 // A small picture for a tool: the desktop theme's where the icon naming

@@ -199,6 +199,8 @@ void tst_Toolbars::customisedLayoutSurvivesARestart()
     m_main->LoadToolbars();
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")), shown);
     QVERIFY(!m_main->toolbars().band(QStringLiteral("Text Property"))->isVisibleTo(m_main.get()));
+    // Bands filled again keep their widgets.
+    QVERIFY(m_main->toolbars().styleCombo()->isVisibleTo(m_main.get()));
     QVERIFY(!m_main->commands().action(QStringLiteral("ViewTB1"))->isChecked());
 
     // A damaged file leaves the design layout.
