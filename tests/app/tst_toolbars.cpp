@@ -19,11 +19,13 @@
 #include <QAction>
 #include <QComboBox>
 #include <QFile>
+#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QToolBar>
 #include <QtTest>
 
@@ -37,6 +39,7 @@ private slots:
     void init();
     void cleanup();
     void everyLaidOutNameIsACommand();
+    void everyToolShowsItsOwnPictureAndTip();
     void viewEntriesFollowAndStoreTheBands();
     void customisedLayoutSurvivesARestart();
     void colouringPanelsWriteAndRecolour();
@@ -101,6 +104,55 @@ void tst_Toolbars::everyLaidOutNameIsACommand()
     QVERIFY(!t.run(QStringLiteral("InsertAnimation")));
 }
 
+namespace {
+
+// How many pixels of a picture are clearly visible.
+int visiblePixels(const QImage &image)
+{
+    int visible = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            visible += qAlpha(image.pixel(x, y)) > 128;
+    }
+    return visible;
+}
+
+} // namespace
+
+void tst_Toolbars::everyToolShowsItsOwnPictureAndTip()
+{
+    // Our own pictures are what a machine without an icon theme shows; each
+    // tool has one of its own, drawn at both sizes.
+    QHash<QByteArray, QString> seen;
+    for (const core::ui::BandLayout &band : core::ui::toolbarLayout()) {
+        QToolBar *bar = m_main->toolbars().band(band.name);
+        for (const QString &tool : band.tools) {
+            if (tool.isEmpty() || tool == QLatin1String("cmbApplyStyle"))
+                continue;
+            QAction *action = m_main->commands().action(core::ui::toolCommand(tool));
+            QVERIFY2(!action->icon().isNull(), qPrintable(tool));
+            for (const QIcon &icon : {action->icon(), core::ui::ownToolIcon(tool)}) {
+                for (int size : {16, 32}) {
+                    const QImage image = icon.pixmap(QSize(size, size)).toImage();
+                    QVERIFY2(!image.isNull(), qPrintable(tool));
+                    QCOMPARE(image.size(), QSize(size, size));
+                    QVERIFY2(visiblePixels(image) >= size * size / 10, qPrintable(tool));
+                }
+            }
+            const QImage own = core::ui::ownToolIcon(tool).pixmap(QSize(32, 32)).toImage();
+            const QByteArray bits(reinterpret_cast<const char *>(own.constBits()), own.sizeInBytes());
+            QVERIFY2(!seen.contains(bits), qPrintable(tool + QLatin1String(" looks like ") + seen.value(bits)));
+            seen.insert(bits, tool);
+
+            auto *button = qobject_cast<QToolButton *>(bar->widgetForAction(action));
+            QVERIFY2(button, qPrintable(tool));
+            QVERIFY2(!button->toolTip().isEmpty(), qPrintable(tool));
+            QCOMPARE(button->toolTip(), action->toolTip());
+        }
+    }
+    QCOMPARE(m_main->commands().action(QStringLiteral("InsertTable"))->toolTip(), QStringLiteral("Table Editor"));
+}
+
 void tst_Toolbars::viewEntriesFollowAndStoreTheBands()
 {
     core::ui::CommandTable &t = m_main->commands();
@@ -147,6 +199,8 @@ void tst_Toolbars::customisedLayoutSurvivesARestart()
     m_main->LoadToolbars();
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")), shown);
     QVERIFY(!m_main->toolbars().band(QStringLiteral("Text Property"))->isVisibleTo(m_main.get()));
+    // Bands filled again keep their widgets.
+    QVERIFY(m_main->toolbars().styleCombo()->isVisibleTo(m_main.get()));
     QVERIFY(!m_main->commands().action(QStringLiteral("ViewTB1"))->isChecked());
 
     // A damaged file leaves the design layout.

@@ -10,6 +10,7 @@
 #include <QIODevice>
 #include <QMainWindow>
 #include <QToolBar>
+#include <QWidgetAction>
 
 namespace qly::core::ui {
 
@@ -39,6 +40,10 @@ Toolbars::Toolbars(QMainWindow &window, CommandTable &commands)
     m_cmbApplyStyle->setToolTip(tr("Apply a style class (comes with style sheets)"));
     m_cmbApplyStyle->setEnabled(false);
     m_cmbApplyStyle->setMinimumContentsLength(12);
+    // One action holds the combo for good: a band filled again re-adds this
+    // action, since a new one would take the combo as hidden by the last fill.
+    m_applyStyle = new QWidgetAction(this);
+    m_applyStyle->setDefaultWidget(m_cmbApplyStyle);
 
     for (const BandLayout &layout : toolbarLayout()) {
         // Three rows by design: file tools; text and insert; format, style and browser.
@@ -46,7 +51,7 @@ Toolbars::Toolbars(QMainWindow &window, CommandTable &commands)
             window.addToolBarBreak(Qt::TopToolBarArea);
         auto *bar = new QToolBar(layout.name, &window);
         bar->setObjectName(layout.name);
-        bar->setIconSize(QSize(20, 20));
+        bar->setIconSize(QSize(24, 24));
         window.addToolBar(Qt::TopToolBarArea, bar);
         m_bands.insert(layout.name, bar);
         m_order << layout.name;
@@ -83,7 +88,7 @@ QStringList Toolbars::allTools(const QString &band) const
 void Toolbars::addTool(QToolBar *bar, const QString &tool)
 {
     if (tool == QLatin1String("cmbApplyStyle")) {
-        bar->addWidget(m_cmbApplyStyle);
+        bar->addAction(m_applyStyle);
         return;
     }
     if (QAction *a = m_commands.action(toolCommand(tool))) {

@@ -8,6 +8,7 @@ class QComboBox;
 class QIcon;
 class QMainWindow;
 class QToolBar;
+class QWidgetAction;
 
 namespace qly::core::ui {
 
@@ -48,10 +49,14 @@ private:
     QHash<QString, QStringList> m_shown;
     QStringList m_order;
     QComboBox *m_cmbApplyStyle = nullptr;
+    QWidgetAction *m_applyStyle = nullptr;
 };
 
-// A small picture for a tool: the desktop theme's where it has one, else
-// the tool's short label drawn as text.
+// A small picture for a tool: the desktop theme's where the icon naming
+// specification has a fitting name and the theme holds it, else our own.
+// An unknown tool gets a null icon (its button then shows its text).
 QIcon toolIcon(const QString &tool);
+// Our own picture of a tool, whatever the desktop theme.
+QIcon ownToolIcon(const QString &tool);
 
 } // namespace qly::core::ui
