@@ -53,6 +53,7 @@ private slots:
     void edit();
     void targetsUndoAndSettings();
     void between();
+    void lineEndsStayWhole();
     void noDocument();
 };
 
@@ -91,6 +92,10 @@ void tst_InsertMarkup::edit_data()
                                                  << 3 << 0;
     QTest::newRow("drop caps after a line end") << drop << "General/Big First Letter Size=+4" << "a\r\nbc" << 5 << 0
                                                 << "a\r\n<FONT SIZE=+4>b</FONT>c" << 5 << 0;
+    QTest::newRow("drop caps on an empty line") << drop << "" << "a\r\n\r\nb" << 3 << 0
+                                                << "a\r\n<FONT SIZE=+2></FONT>\r\nb" << 3 << 0;
+    QTest::newRow("bold, selection ending inside a line break") << bold << "" << "ab\r\ncd" << 0 << 3
+                                                                << "<STRONG>ab</STRONG>\r\ncd" << 0 << 19;
 }
 
 void tst_InsertMarkup::edit()
@@ -168,6 +173,60 @@ void tst_InsertMarkup::between()
     QCOMPARE(edit.Text(), QStringLiteral("<meta name=\"A\"><TITLE>New</TITLE></HEAD>"));
     edit.SetSel(0, 0);
     QVERIFY(!ReplaceBetween(edit, QStringLiteral("<BODY"), QStringLiteral(">"), title));
+}
+
+// The position of the first CR or LF that is not part of a CR LF pair, or -1.
+static qsizetype loneLineEnd(const QString &text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text.at(i) == u'\r' && (i + 1 == text.size() || text.at(i + 1) != u'\n'))
+            return i;
+        if (text.at(i) == u'\n' && (i == 0 || text.at(i - 1) != u'\r'))
+            return i;
+    }
+    return -1;
+}
+
+void tst_InsertMarkup::lineEndsStayWhole()
+{
+    const QList<std::pair<const char *, Command>> commands = {
+        {"bold", FormatBold_Click}, {"italic", FormatItalic_Click}, {"underline", FormatUnderline_Click},
+        {"left", FormatLeft_Click}, {"center", FormatCenter_Click}, {"right", FormatRight_Click},
+        {"bigger", FormatBigger_Click}, {"smaller", FormatSmaller_Click}, {"drop caps", FormatDropCaps_Click},
+        {"h1", [] { tlbHead_Click(1); }}, {"h6", [] { tlbHead_Click(6); }}, {"indent", tlbIndent_Click},
+        {"outdent", tlbOutdent_Click}, {"break", tlbBreak_Click}, {"paragraph", tlbParagraph_Click},
+        {"nbsp", tlbNBSP_Click}};
+    // "one.", an empty line, "two", each ended by CR LF.
+    const QString text = QStringLiteral("one.\r\n\r\ntwo\r\n");
+    struct Place {
+        const char *what;
+        int start, length;
+    };
+    const QList<Place> places = {{"caret before CR behind a full stop", 4, 0},
+                                 {"caret on an empty line", 6, 0},
+                                 {"selection ending between CR and LF", 8, 4},
+                                 {"selection starting between CR and LF", 7, 4},
+                                 {"just the CR of the empty line", 6, 1}};
+    for (const QString &container : {QStringLiteral("No"), QStringLiteral("Yes")}) {
+        for (const auto &[name, run] : commands) {
+            for (const Place &place : places) {
+                test::TestEnv env;
+                test::FakeWorkspace ws;
+                core::WriteSetting(QStringLiteral("General"), QStringLiteral("P is a Container"), container);
+                test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), text);
+                doc->edit.SetSel(place.start, place.start + place.length);
+                run();
+                const QString after = doc->edit.Text();
+                const QString where = QLatin1String(name) + QStringLiteral(", ") + QLatin1String(place.what)
+                                      + QStringLiteral(": ") + QString(after).replace(u'\r', QLatin1String("\\r"))
+                                                                 .replace(u'\n', QLatin1String("\\n"));
+                // Every command changes the text, but Break on a selection without a line break.
+                if (QLatin1String(name) != QLatin1String("break") || place.length == 0)
+                    QVERIFY2(after != text, qPrintable(where));
+                QVERIFY2(loneLineEnd(after) < 0, qPrintable(where));
+            }
+        }
+    }
 }
 
 void tst_InsertMarkup::noDocument()
