@@ -98,6 +98,15 @@ bool Document::Save()
             txtDoc().setDirty(false);
         }
     } else {
+        // A file whose folder has gone since it was opened: say so before the
+        // dialog asks for a new place.
+        const QString dir = LocalFileName.isEmpty() ? QString() : QFileInfo(LocalFileName).absolutePath();
+        if (!dir.isEmpty() && !DirExists(dir)) {
+            EndWait();
+            platform::MsgBox(QStringLiteral("The folder ") + dir + QStringLiteral(" no longer exists. Choose where to save ")
+                                 + FileNameOf(LocalFileName) + u'.',
+                             platform::Buttons::Ok, platform::Icon::Exclamation);
+        }
         ok = SaveAs();
     }
     EndWait();
