@@ -159,6 +159,12 @@ void tst_MainWindow::commandsReachTheActiveDocument()
     QVERIFY(m_main->commands().run(QStringLiteral("mnuSave")));
     QCOMPARE(m_env->read(file), QByteArray("<B>x</B>"));
     QVERIFY(!e.Dirty());
+
+    // Drop Caps on an empty line of the real buffer leaves its CR LF whole.
+    e.setText(QStringLiteral("a\r\n\r\nb"));
+    e.setSelStart(3);
+    QVERIFY(m_main->commands().run(QStringLiteral("FormatDropCaps")));
+    QCOMPARE(e.Text(), QStringLiteral("a\r\n<FONT SIZE=+2></FONT>\r\nb"));
 }
 
 void tst_MainWindow::statusTextClearsAfterFourSeconds()
