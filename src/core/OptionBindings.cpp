@@ -75,7 +75,7 @@ const std::array<CheckBinding, kOptionCheckCount> &checkBindings()
         {C::RestoreLastSession, T::SaveStart, L("chkGeneral(4)"), kGeneral, L("Restore Last Session"), false,
          L("Restore the last session at start-up")},
         {C::CreateBak, T::SaveStart, L("chkGeneral(2)"), kGeneral, L("Create BAK Files"), true,
-         L("Keep a .bak copy when saving")},
+         L("Keep a .bak copy of each file as it was when opened")},
         {C::RefreshBrowser, T::SaveStart, L("chkGeneral(13)"), kGeneral, L("Refresh Browser"), false,
          L("Refresh browser preview on saving document")},
         {C::ScoutTab, T::SaveStart, L("chkScoutTab"), kGeneral, L("Use Scout Tab"), false,

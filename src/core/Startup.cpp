@@ -9,12 +9,27 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 namespace qly::core {
 
 namespace {
+
 const QString kDisplay = QStringLiteral("Display");
+
+// A new configuration sends the file dialogs to the user's documents rather
+// than to the program's data, unless the shipped defaults name a place.
+void seedDocumentsLocation(const QString &ini)
+{
+    const QString section = QStringLiteral("File Locations");
+    const QString key = QStringLiteral("Documents");
+    if (!ReadSetting(section, key, ini).isEmpty())
+        return;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    WriteSetting(section, key, DirExists(documents) ? documents : QDir::homePath(), ini);
 }
+
+} // namespace
 
 QString ChooseIniFile()
 {
@@ -28,6 +43,7 @@ QString ChooseIniFile()
             QDir().mkpath(UserConfigDirectory());
             QFile::copy(shipped, user);
             QFile(user).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+            seedDocumentsLocation(user);
         }
     }
     return user;

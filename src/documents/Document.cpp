@@ -98,6 +98,15 @@ bool Document::Save()
             txtDoc().setDirty(false);
         }
     } else {
+        // A file whose folder has gone since it was opened: say so before the
+        // dialog asks for a new place.
+        const QString dir = LocalFileName.isEmpty() ? QString() : QFileInfo(LocalFileName).absolutePath();
+        if (!dir.isEmpty() && !DirExists(dir)) {
+            EndWait();
+            platform::MsgBox(QStringLiteral("The folder ") + dir + QStringLiteral(" no longer exists. Choose where to save ")
+                                 + FileNameOf(LocalFileName) + u'.',
+                             platform::Buttons::Ok, platform::Icon::Exclamation);
+        }
         ok = SaveAs();
     }
     EndWait();
@@ -111,6 +120,8 @@ bool Document::SaveAs()
     request.directory = GetFileLocation(QStringLiteral("Documents"));
     request.title = versionCaption() + QStringLiteral(" - Save File As");
     request.filter = FileFilter();
+    // The web pages' filter only when the default extension is forced; the
+    // second one, "Text Files", otherwise, as the Open dialog.
     request.filterIndex = ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Force DefaultExt")) ? 1 : 2;
     request.promptOverwrite = true;
     request.fileName = pageTitle(txtDoc().Text());
@@ -141,6 +152,9 @@ bool Document::NamedSaveAs(const QString &chosen)
     ShowCaptionAndTab(path);
     ShowFileName = path;
     bRemote = false;
+    // Dirty is left as it was, unlike in Save: a document that has only been
+    // through Save As still counts as changed, keeps the "*" of its caption,
+    // and the exit asks about it.
     const IoResult result = txtDoc().SaveFile(1, path);
     if (!result.ok()) {
         reportSaveFailure(path, result);

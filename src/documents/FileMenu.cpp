@@ -16,7 +16,7 @@ void mnuOpen_Click()
     platform::FileRequest request;
     request.title = QStringLiteral("Open File");
     request.filter = FileFilter();
-    request.filterIndex = 2;
+    request.filterIndex = 2;   // the second filter, "Text Files", as the editor has always opened
     request.defaultSuffix = ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"));
     request.directory = GetFileLocation(QStringLiteral("Documents"), true);
     request.multiple = true;

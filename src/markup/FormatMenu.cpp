@@ -159,7 +159,7 @@ void FormatDropCaps_Click()
             --pos;
         edit->setSelStart(pos);
         edit->setSelLength(1);
-        sel = edit->SelText();
+        sel = GetSelection(*edit);   // at an empty line's end: nothing, not half the line break
     }
     QString size = core::ReadSetting(QStringLiteral("General"), QStringLiteral("Big First Letter Size"));
     if (size.isEmpty())

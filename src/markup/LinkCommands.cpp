@@ -38,6 +38,21 @@ void replaceWholeText(platform::HTMLEdit &edit, const QString &text)
     edit.setSelStart(std::min(caret, edit.GetTextLength()));
 }
 
+// Widens the selection over a double quote that stands right before or after
+// it, where the selection itself does not begin or end with one.
+void takeInQuotes(platform::HTMLEdit &edit)
+{
+    const QString selected = edit.SelText();
+    const QString text = edit.Text();
+    int start = edit.SelStart();
+    int end = start + edit.SelLength();
+    if (!selected.startsWith(u'"') && start > 0 && text.at(start - 1) == u'"')
+        --start;
+    if (!selected.endsWith(u'"') && end < text.size() && text.at(end) == u'"')
+        ++end;
+    edit.SetSel(start, end);
+}
+
 } // namespace
 
 void EditAbsToRel_Click()
@@ -117,6 +132,9 @@ void EditRelToAbs_Click()
         platform::MsgBox(QStringLiteral("Couldn't convert this reference."));
         return;
     }
+    // The new reference comes quoted: a selection of a value without its quotes
+    // takes them in, so that they are replaced rather than doubled.
+    takeInQuotes(edit);
     InsertMarkup(AddQuotes(PathToFileUrl(resolved)), QString(), true, edit);
 }
 

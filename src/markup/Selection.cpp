@@ -5,11 +5,32 @@
 #include "markup/TextOps.h"
 #include "platform/HTMLEdit.h"
 
+#include <algorithm>
+
 namespace qly::markup {
+
+void KeepLineEndsWhole(platform::HTMLEdit &edit)
+{
+    const QString selected = edit.SelText();
+    const bool splitAtStart = selected.startsWith(u'\n');
+    const bool splitAtEnd = selected.endsWith(u'\r');
+    if (!splitAtStart && !splitAtEnd)
+        return;
+    // Rare: only now is the whole text worth fetching, for the neighbours.
+    const QString text = edit.Text();
+    int start = edit.SelStart();
+    int end = start + edit.SelLength();
+    if (splitAtStart && start > 0 && text.at(start - 1) == u'\r')
+        ++start;
+    if (splitAtEnd && end < text.size() && text.at(end) == u'\n')
+        --end;
+    edit.SetSel(start, std::max(start, end));
+}
 
 QString GetSelection(const Target &target)
 {
     if (platform::HTMLEdit *edit = target.edit()) {
+        KeepLineEndsWhole(*edit);
         QString text = edit->SelText();
         if (text.endsWith(core::gCRLF))
             text.chop(2);
@@ -22,9 +43,10 @@ QString GetSelection(const Target &target)
 
 bool HasSelection(const Target &target, QString &text)
 {
-    if (platform::HTMLEdit *edit = target.edit())
+    if (platform::HTMLEdit *edit = target.edit()) {
+        KeepLineEndsWhole(*edit);
         text = edit->SelText();
-    else if (TextHolder *holder = target.holder())
+    } else if (TextHolder *holder = target.holder())
         text = holder->selectedText();
     else
         text.clear();

@@ -12,10 +12,18 @@ namespace qly::markup {
 
 // Reading and placing the selection of an insertion target.
 
+// Moves the ends of a buffer's selection off the middle of a CR LF pair: a
+// start between CR and LF goes behind the LF, an end between them goes before
+// the CR. So no command that replaces the selection leaves a lone CR or LF.
+void KeepLineEndsWhole(platform::HTMLEdit &edit);
+
 // The selected text. From a document's buffer one trailing CR LF is removed,
 // so wrapping a whole selected line replaces its line break too. From a text
 // holder the text comes through HasSelection. No target gives "".
 QString GetSelection(const Target &target);
+
+// The selection of a buffer is first kept off the middle of a line end
+// (KeepLineEndsWhole).
 
 // True when the target's selected text is not empty; `text` receives it, or "".
 bool HasSelection(const Target &target, QString &text);

@@ -47,6 +47,7 @@ void InsertMarkup(QString startText, QString endText, bool skipRepeatTest, const
     }
 
     platform::HTMLEdit &edit = *target.edit();
+    KeepLineEndsWhole(edit);
     const int selStart = edit.SelStart();
     const QString selected = edit.SelText();
     const bool hadSelection = !selected.isEmpty();

@@ -15,7 +15,9 @@
 #include <Qsci/qscicommandset.h>
 #include <Qsci/qsciscintilla.h>
 
+#include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QtTest>
@@ -35,6 +37,9 @@ private slots:
     void commandsReachTheActiveDocument();
     void statusTextClearsAfterFourSeconds();
     void closeDuringStartupWaitsForTheStep();
+    void everyKeyHasOneOwner();
+    void windowMenuListsTheDocuments();
+    void captionMarksUnsavedChanges();
 
 private:
     std::unique_ptr<test::TestEnv> m_env;
@@ -154,6 +159,12 @@ void tst_MainWindow::commandsReachTheActiveDocument()
     QVERIFY(m_main->commands().run(QStringLiteral("mnuSave")));
     QCOMPARE(m_env->read(file), QByteArray("<B>x</B>"));
     QVERIFY(!e.Dirty());
+
+    // Drop Caps on an empty line of the real buffer leaves its CR LF whole.
+    e.setText(QStringLiteral("a\r\n\r\nb"));
+    e.setSelStart(3);
+    QVERIFY(m_main->commands().run(QStringLiteral("FormatDropCaps")));
+    QCOMPARE(e.Text(), QStringLiteral("a\r\n<FONT SIZE=+2></FONT>\r\nb"));
 }
 
 void tst_MainWindow::statusTextClearsAfterFourSeconds()
@@ -202,6 +213,94 @@ void tst_MainWindow::closeDuringStartupWaitsForTheStep()
     QVERIFY(m_main->unloaded());
     QCOMPARE(m_main->documentList().size(), 0);
     QCOMPARE(m_env->read(file), QByteArray("c"));
+}
+
+void tst_MainWindow::everyKeyHasOneOwner()
+{
+    QVERIFY(documents::OpenDocumentFile(m_env->write(QStringLiteral("a.html"), "a")));
+    QVERIFY(documents::OpenDocumentFile(m_env->write(QStringLiteral("b.html"), "b")));
+    m_main->activeDocument()->setWindowState(2);   // maximized, its frame's menu sits in the menu bar
+    // Every action of every widget, the document frames' own menus included.
+    QSet<QAction *> actions;
+    const auto add = [&actions](const QList<QAction *> &list) {
+        for (QAction *a : list)
+            actions.insert(a);
+    };
+    add(m_main->findChildren<QAction *>());
+    for (QWidget *w : QApplication::allWidgets())
+        add(w->actions());
+    for (QMdiSubWindow *sub : m_main->mdiArea()->subWindowList())
+        add(sub->systemMenu()->actions());
+    QMultiHash<QString, QString> owners;
+    for (QAction *a : std::as_const(actions)) {
+        for (const QKeySequence &key : a->shortcuts())
+            owners.insert(key.toString(), a->objectName() + a->text());
+    }
+    QVERIFY(owners.size() > 20);
+    for (const QString &key : owners.uniqueKeys())
+        QVERIFY2(owners.count(key) == 1, qPrintable(key + u' ' + owners.values(key).join(u',')));
+
+    // Ctrl+W typed in the page closes that document, without a doubt about the key.
+    QApplication::setActiveWindow(m_main.get());
+    QVERIFY(m_main->isAncestorOf(QApplication::focusWidget()));
+    const QString closing = m_main->activeDocument()->caption();
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("Ambiguous shortcut")));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
+    QCOMPARE(m_main->documentList().size(), 1);
+    QVERIFY(m_main->documentList().first()->caption() != closing);
+}
+
+void tst_MainWindow::windowMenuListsTheDocuments()
+{
+    auto *menu = m_main->findChild<QMenu *>(QStringLiteral("Window"));
+    const auto entries = [menu] {   // the entries behind the fixed ones, as the menu opens
+        emit menu->aboutToShow();
+        QList<QAction *> out;
+        for (QAction *a : menu->actions())
+            if (a->objectName().startsWith(QLatin1String("mnuWindowList")))
+                out << a;
+        return out;
+    };
+    QVERIFY(entries().isEmpty());
+    const QString a = m_env->write(QStringLiteral("a.html"), "a");
+    const QString b = m_env->write(QStringLiteral("b&c.html"), "b");
+    QVERIFY(documents::OpenDocumentFile(a));
+    QVERIFY(documents::OpenDocumentFile(b));
+    QList<QAction *> list = entries();
+    QCOMPARE(list.size(), 2);
+    QCOMPARE(list[0]->text(), QStringLiteral("&1 ") + a);
+    QCOMPARE(list[1]->text(), QStringLiteral("&2 ") + QString(b).replace(u'&', QLatin1String("&&")));
+    QVERIFY(!list[0]->isChecked() && list[1]->isChecked());
+
+    list[0]->trigger();
+    QCOMPARE(m_main->activeDocument()->caption(), a);
+    list = entries();
+    QVERIFY(list[0]->isChecked() && !list[1]->isChecked());
+    m_main->commands().run(QStringLiteral("mnuClose"));
+    QCOMPARE(entries().size(), 1);
+}
+
+void tst_MainWindow::captionMarksUnsavedChanges()
+{
+    const QString file = m_env->write(QStringLiteral("page.html"), "text");
+    QVERIFY(documents::OpenDocumentFile(file));
+    documents::Document *doc = m_main->activeDocument();
+    QMdiSubWindow *sub = m_main->mdiArea()->currentSubWindow();
+    QVERIFY(sub->windowTitle().contains(QLatin1String("[*]")) && !sub->isWindowModified());
+    doc->txtDoc().setSelText(QStringLiteral("!"));
+    QVERIFY(sub->isWindowModified());
+    QCOMPARE(doc->caption(), file);   // prompts and the session see the name alone
+    QVERIFY(m_main->commands().run(QStringLiteral("mnuSave")));
+    QVERIFY(!sub->isWindowModified());
+
+    // Save As writes the file but leaves the document counted as changed:
+    // the mark stays, and the exit will ask about it.
+    doc->txtDoc().setSelText(QStringLiteral("?"));
+    const QString other = m_env->path(QStringLiteral("other.html"));
+    m_prompts->chooseFiles({other});
+    QVERIFY(m_main->commands().run(QStringLiteral("mnuSaveAs")));
+    QCOMPARE(m_env->read(other), QByteArray("!?text"));
+    QVERIFY(sub->windowTitle().startsWith(other) && sub->isWindowModified());
 }
 
 QTEST_MAIN(tst_MainWindow)

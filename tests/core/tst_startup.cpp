@@ -70,8 +70,20 @@ void tst_Startup::iniFileIsChosenAndSeeded()
     env.write(QStringLiteral("quillery.default.ini"), "[General]\r\nOpen New Document=Yes\r\n");
     const QString user = env.path(QStringLiteral("config/quillery/quillery.ini"));
     // No file anywhere: the shipped defaults are copied to the user's directory.
+    // The file dialogs start in the user's documents, or at home when there are none.
+    const QByteArray oldHome = qgetenv("HOME");
+    qputenv("HOME", env.path(QStringLiteral("home")).toLocal8Bit());
+    QVERIFY(QDir().mkpath(env.path(QStringLiteral("home"))));
     QCOMPARE(core::ChooseIniFile(), user);
-    QCOMPARE(env.read(user), QByteArray("[General]\r\nOpen New Document=Yes\r\n"));
+    QVERIFY(env.read(user).startsWith("[General]\r\nOpen New Document=Yes\r\n"));
+    QCOMPARE(core::ReadSetting(QStringLiteral("File Locations"), QStringLiteral("Documents"), user),
+             env.path(QStringLiteral("home")));
+    QVERIFY(QFile::remove(user));
+    QVERIFY(QDir().mkpath(env.path(QStringLiteral("home/Documents"))));
+    QCOMPARE(core::ChooseIniFile(), user);
+    QCOMPARE(core::ReadSetting(QStringLiteral("File Locations"), QStringLiteral("Documents"), user),
+             env.path(QStringLiteral("home/Documents")));
+    qputenv("HOME", oldHome);
     // The user's own file is never overwritten.
     env.write(QStringLiteral("config/quillery/quillery.ini"), "[Mine]\r\n");
     QCOMPARE(core::ChooseIniFile(), user);

@@ -3,6 +3,7 @@
 #include "documents/AutoSave.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
+#include "documents/DocumentOptions.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -19,6 +20,7 @@ class tst_FileSave : public QObject
 private slots:
     void readOnlyFileKeepsChanges();
     void saveIntoRemovedDirectory();
+    void saveAsStartsBesideTheDocument();
     void sessionListOnCancel();
     void sessionListLimit();
     void autoSaveThreshold_data();
@@ -80,17 +82,45 @@ void tst_FileSave::saveIntoRemovedDirectory()
     QCOMPARE(env.read(QStringLiteral("keep/page.htm")), QByteArray("kept"));
     QVERIFY(!QFile::exists(target));
 
-    // Save of the document whose file went with its directory asks for a
-    // name; a name in the same removed directory fails the same way.
+    // Save of the document whose file went with its directory says why, then
+    // asks for a name; a name in the same removed directory fails the same way.
     prompts.chooseFiles({env.path(QStringLiteral("doomed/again"))});
     QVERIFY(!ws.document(1)->Save());
     QCOMPARE(prompts.fileRequests.size(), 1);
-    QCOMPARE(prompts.shown.size(), 2);
-    QVERIFY(prompts.shown[1].text.startsWith(QStringLiteral("Quillery 4.01 could not save ")
+    QCOMPARE(prompts.shown.size(), 3);
+    QCOMPARE(prompts.shown[1].text, QStringLiteral("The folder ") + env.path(QStringLiteral("doomed"))
+                                        + QStringLiteral(" no longer exists. Choose where to save old.htm."));
+    QCOMPARE(prompts.shown[1].icon, platform::Icon::Exclamation);
+    QVERIFY(prompts.shown[2].text.startsWith(QStringLiteral("Quillery 4.01 could not save ")
                                              + env.path(QStringLiteral("doomed/again.HTM"))));
     QVERIFY(ws.document(1)->edit.Dirty());
     QVERIFY(!QDir(env.path(QStringLiteral("doomed"))).exists());
     QCOMPARE(QDir(env.path(QStringLiteral("keep"))).entryList(QDir::Files), QStringList{QStringLiteral("page.htm")});
+}
+
+void tst_FileSave::saveAsStartsBesideTheDocument()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    test::FakeWorkspace ws;
+    documents::InstallDocumentOptionHooks();
+    const QString page = env.write(QStringLiteral("site/page.htm"), "p");
+    QVERIFY(documents::OpenDocumentFile(page));
+
+    // No documents location: the dialog opens in the document's own folder.
+    prompts.chooseNothing();
+    QVERIFY(!ws.document(0)->SaveAs());
+    QCOMPARE(prompts.fileRequests.last().directory, env.path(QStringLiteral("site")));
+
+    // The documents location of the configuration comes first.
+    const QString docs = env.path(QStringLiteral("docs"));
+    QVERIFY(QDir().mkpath(docs));
+    core::WriteSetting(QStringLiteral("File Locations"), QStringLiteral("Documents"), docs);
+    prompts.chooseNothing();
+    QVERIFY(!ws.document(0)->SaveAs());
+    QCOMPARE(prompts.fileRequests.last().directory, docs);
+    QCOMPARE(ws.document(0)->LocalFileName, page);
+    core::setActiveDocumentFolder({});
 }
 
 void tst_FileSave::sessionListOnCancel()

@@ -53,6 +53,7 @@ private slots:
     void edit();
     void targetsUndoAndSettings();
     void between();
+    void lineEndsStayWhole();
     void noDocument();
 };
 
@@ -91,6 +92,8 @@ void tst_InsertMarkup::edit_data()
                                                  << 3 << 0;
     QTest::newRow("drop caps after a line end") << drop << "General/Big First Letter Size=+4" << "a\r\nbc" << 5 << 0
                                                 << "a\r\n<FONT SIZE=+4>b</FONT>c" << 5 << 0;
+    QTest::newRow("drop caps on an empty line") << drop << "" << "a\r\n\r\nb" << 3 << 0
+                                                << "a\r\n<FONT SIZE=+2></FONT>\r\nb" << 3 << 0;
 }
 
 void tst_InsertMarkup::edit()
@@ -168,6 +171,38 @@ void tst_InsertMarkup::between()
     QCOMPARE(edit.Text(), QStringLiteral("<meta name=\"A\"><TITLE>New</TITLE></HEAD>"));
     edit.SetSel(0, 0);
     QVERIFY(!ReplaceBetween(edit, QStringLiteral("<BODY"), QStringLiteral(">"), title));
+}
+
+// Every Format command at the end of a CR LF line, with the caret before the
+// CR or a selection with one end between CR and LF, keeps each pair whole.
+void tst_InsertMarkup::lineEndsStayWhole()
+{
+    const QList<Command> commands = {
+        FormatBold_Click, FormatItalic_Click, FormatUnderline_Click, FormatLeft_Click, FormatCenter_Click,
+        FormatRight_Click, FormatBigger_Click, FormatSmaller_Click, FormatDropCaps_Click, [] { tlbHead_Click(1); },
+        [] { tlbHead_Click(6); }, tlbIndent_Click, tlbOutdent_Click, tlbBreak_Click, tlbParagraph_Click,
+        tlbNBSP_Click};
+    const QString text = QStringLiteral("one.\r\n\r\ntwo\r\n");
+    // Caret before a CR behind a full stop and on an empty line; the CR of the
+    // empty line alone; "two" with the CR, and with the LF before it.
+    const QList<std::pair<int, int>> places = {{4, 0}, {6, 0}, {6, 1}, {8, 4}, {7, 4}};
+    const QRegularExpression lone(QStringLiteral("\r(?!\n)|(?<!\r)\n"));
+    for (const QString container : {QStringLiteral("No"), QStringLiteral("Yes")}) {
+        for (qsizetype c = 0; c < commands.size(); ++c) {
+            for (const auto &[start, length] : places) {
+                test::TestEnv env;
+                test::FakeWorkspace ws;
+                core::WriteSetting(QStringLiteral("General"), QStringLiteral("P is a Container"), container);
+                test::FakeDocument *doc = ws.addDocument(QStringLiteral("a"), text);
+                doc->edit.SetSel(start, start + length);
+                commands[c]();
+                const QString after = doc->edit.Text();
+                const QString where = QStringLiteral("command %1 at %2+%3: ").arg(c).arg(start).arg(length)
+                                      + QString(after).replace(u'\r', u'R').replace(u'\n', u'N');
+                QVERIFY2(!after.contains(lone), qPrintable(where));
+            }
+        }
+    }
 }
 
 void tst_InsertMarkup::noDocument()

@@ -160,6 +160,17 @@ void tst_Links::relativeToAbsolute()
     doc->edit.SetSel(0, 0);
     markup::EditRelToAbs_Click();
     QCOMPARE(prompts.shown.last().text, QStringLiteral("Please highlight the reference you wish to change."));
+
+    // A quoted value: the path alone, the path with one quote, or with both,
+    // always gives one pair of quotes.
+    const QString quoted = QStringLiteral("<A HREF=\"sub/page.htm\">x</A>");
+    const QString expected = QStringLiteral("<A HREF=\"file://%1/sub/page.htm\">x</A>").arg(env.path(QStringLiteral("w/x")));
+    for (const auto &[from, to] : {std::pair{9, 21}, std::pair{8, 21}, std::pair{9, 22}, std::pair{8, 22}}) {
+        doc->edit.setText(quoted);
+        doc->edit.SetSel(from, to);
+        markup::EditRelToAbs_Click();
+        QCOMPARE(doc->edit.Text(), expected);
+    }
     platform::setPrompts(nullptr);
 }
 

@@ -32,7 +32,8 @@ const std::vector<CommandInfo> &commandCatalogue()
         {S("mnuSaveAs"), S("Save &As..."), K(K::SaveAs)},
         {S("mnuSaveTemplate"), S("Save As Template..."), {}},
         {S("mnuSaveAll"), S("Sa&ve All"), K(S("Ctrl+Shift+L"))},
-        {S("mnuClose"), S("&Close"), K(K::Close)},
+        // Ctrl+W on every desktop (the standard Close key is Ctrl+F4 on some).
+        {S("mnuClose"), S("&Close"), K(S("Ctrl+W"))},
         {S("mnuPrint"), S("&Print..."), K(K::Print)},
         {S("mnuPrintPreview"), S("Print Pre&view..."), {}},
         {S("mnuPrintSetup"), S("Pr&int Setup..."), {}},

@@ -8,6 +8,7 @@
 #include "documents/RecentFiles.h"
 #include "documents/Workspace.h"
 #include "documents/ui/FileLifecycle.h"
+#include "documents/ui/WindowList.h"
 #include "platform/HTMLEdit.h"
 
 #include <QAction>
@@ -100,6 +101,7 @@ void registerDocumentCommands(core::ui::Shell &shell)
     registerFileMenu(t, shell.mainWindow(), shell.mdiArea());
     registerEditCommands(t);
     registerWindowMenu(t, shell.mdiArea());
+    InstallWindowList(shell.mainWindow(), shell.mdiArea());
     InstallFileLifecycle(shell);
 }
 

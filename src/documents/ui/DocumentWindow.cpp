@@ -22,6 +22,7 @@
 
 #include <Qsci/qsciscintilla.h>
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QFile>
 #include <QComboBox>
@@ -32,6 +33,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTabWidget>
@@ -69,6 +71,7 @@ DocumentWindow::DocumentWindow(QWidget *parent)
     m_edit->view()->installEventFilter(this);
     m_edit->view()->viewport()->installEventFilter(this);
     connect(m_edit, &ScintillaEdit::caretMoved, this, &DocumentWindow::updatePosition);
+    connect(m_edit, &ScintillaEdit::dirtyChanged, this, &QWidget::setWindowModified);
     connect(m_tabDoc, &QTabWidget::currentChanged, this, &DocumentWindow::onTabChanged);
     setFocusProxy(m_edit->view());
     // Files dropped from the desktop are put into the text by their kind.
@@ -155,14 +158,31 @@ QMdiSubWindow *DocumentWindow::subWindow() const
     return qobject_cast<QMdiSubWindow *>(parentWidget());
 }
 
-QString DocumentWindow::caption() const
+// In its frame, the window's own menu gives up its keys: closing and the
+// rest have their keys on the editor's commands, and one key has one owner.
+bool DocumentWindow::event(QEvent *event)
 {
-    return windowTitle();
+    if (event->type() == QEvent::ParentChange) {
+        if (QMdiSubWindow *sub = subWindow(); sub && sub->systemMenu()) {
+            for (QAction *a : sub->systemMenu()->actions())
+                a->setShortcuts({});
+        }
+    }
+    return QWidget::event(event);
 }
 
+QString DocumentWindow::caption() const
+{
+    return m_caption;
+}
+
+// The title carries the mark "[*]": the window shows a "*" there while the
+// text has unsaved changes.
 void DocumentWindow::setCaption(const QString &caption)
 {
-    setWindowTitle(caption);
+    m_caption = caption;
+    setWindowTitle(QString(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]"))
+                   + QStringLiteral("[*]"));
 }
 
 int DocumentWindow::windowState() const

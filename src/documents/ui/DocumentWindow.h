@@ -71,6 +71,7 @@ protected:
     virtual bool runsKeyHookOnKeyUp() const = 0;
 
     void closeEvent(QCloseEvent *event) override;
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -89,6 +90,7 @@ private:
     QComboBox *m_cmbHistory = nullptr;
     QLabel *m_lblHistory = nullptr;
     QPushButton *m_cmdLinkTo = nullptr;
+    QString m_caption;       // the caption without the window's change mark
     QString m_scoutFile;     // the page written for the preview tab
     QString m_scoutStub;     // the empty file that reserved its name
     bool m_skipQuery = false;
