@@ -16,11 +16,6 @@ bool continuation(unsigned char b)
     return (b & 0xC0) == 0x80;
 }
 
-int sequenceLength(unsigned char lead)
-{
-    return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-}
-
 } // namespace
 
 CharacterStage::CharacterStage(TextEncoding encoding)
@@ -54,9 +49,7 @@ int CharacterStage::translationOf(const unsigned char *at, int length) const
 {
     if (length == 1)
         return m_byte[at[0]];
-    char32_t c = at[0] & (0x7F >> length);
-    for (int i = 1; i < length; ++i)
-        c = (c << 6) | (at[i] & 0x3F);
+    const char32_t c = core::decodeUtf8(at, length);
     if (c >= 0x10000)
         return m_astral.value(c, -1);
     return c - 0x80 < m_wide.size() ? m_wide[c - 0x80] : -1;
@@ -93,7 +86,7 @@ void CharacterStage::run(QByteArray &in, bool last, QByteArray &out)
         qsizetype lead = n;
         while (lead > 0 && n - lead < 4 && continuation(data[lead - 1]))
             --lead;
-        if (lead > 0 && data[lead - 1] >= 0xC0 && sequenceLength(data[lead - 1]) > n - lead + 1)
+        if (lead > 0 && data[lead - 1] >= 0xC0 && core::utf8SequenceLength(data[lead - 1]) > n - lead + 1)
             end = lead - 1;
     }
     qsizetype copied = 0;
@@ -114,7 +107,7 @@ void CharacterStage::run(QByteArray &in, bool last, QByteArray &out)
             ++i;
             continue;
         }
-        const int length = utf8 ? sequenceLength(data[i]) : 1;
+        const int length = utf8 ? core::utf8SequenceLength(data[i]) : 1;
         const int index = translationOf(data + i, length);
         if (index >= 0) {
             out.append(reinterpret_cast<const char *>(data + copied), i - copied);

@@ -58,9 +58,11 @@ private:
     QString &m_text;
 };
 
-// The whole-file writer for what publishing makes. A page goes through the
-// passes as bytes where they give the same result as on characters, and is
-// written as it comes; otherwise as characters, written at the end.
+// Publishes the bytes of a page into `target`, which is replaced whole once
+// it is complete. Where the passes give the same result on the page's bytes
+// as on its characters, the bytes go through them piece by piece and are
+// written as they come; otherwise the page is decoded, published as
+// characters and written at the end.
 core::IoResult publishInto(const QString &target, const QByteArray &page)
 {
     core::AtomicFileWriter writer(target);
@@ -77,6 +79,8 @@ core::IoResult publishInto(const QString &target, const QByteArray &page)
             return writer.write(data, size);
         };
         publishBytes(page, encoding, settings, sink);
+        if (!writing)
+            core::ShowStatus(QStringLiteral("Writing file..."));
     } else {
         QString text = core::decodeText(page, encoding);
         StringPasses passes(text);

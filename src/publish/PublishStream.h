@@ -24,6 +24,6 @@ bool canPublishBytes(const PassSettings &settings, core::TextEncoding encoding);
 // then stops. Requires canPublishBytes().
 using ByteSink = std::function<bool(const char *data, qsizetype size)>;
 bool publishBytes(const QByteArray &page, core::TextEncoding encoding, const PassSettings &settings,
-                  const ByteSink &sink, qsizetype pieceSize = 64 * 1024);
+                  const ByteSink &sink, qsizetype pieceSize = 32 * 1024);
 
 } // namespace qly::publish

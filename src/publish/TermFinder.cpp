@@ -51,25 +51,15 @@ unsigned char leadByte(char32_t c)
     return static_cast<unsigned char>(utf8.at(0));
 }
 
-int sequenceLength(unsigned char lead)
-{
-    return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-}
-
 // The character at `at` of valid UTF-8, and its length; 0 when it is cut off by `end`.
 char32_t decodeAt(const unsigned char *at, const unsigned char *end, int &length)
 {
-    length = sequenceLength(at[0]);
+    length = core::utf8SequenceLength(at[0]);
     if (end - at < length) {
         length = 0;
         return 0;
     }
-    if (length == 1)
-        return at[0];
-    char32_t c = at[0] & (0x7F >> length);
-    for (int i = 1; i < length; ++i)
-        c = (c << 6) | (at[i] & 0x3F);
-    return c;
+    return core::decodeUtf8(at, length);
 }
 
 } // namespace
