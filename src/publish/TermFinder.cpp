@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <utility>
 
 namespace qly::publish {
@@ -27,6 +28,14 @@ const std::array<char32_t, 256> &foldedBytes()
     return table;
 }
 
+// Unicode's simple case folding, as QString compares without regard to case.
+char32_t foldCase(char32_t c)
+{
+    if (c < 0x80)
+        return c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c;
+    return QChar::toCaseFolded(c);
+}
+
 // Every character whose folding is another, sorted by the folded one.
 const std::vector<std::pair<char32_t, char32_t>> &unfoldings()
 {
@@ -43,12 +52,6 @@ const std::vector<std::pair<char32_t, char32_t>> &unfoldings()
         return l;
     }();
     return list;
-}
-
-unsigned char leadByte(char32_t c)
-{
-    const QByteArray utf8 = QString::fromUcs4(&c, 1).toUtf8();
-    return static_cast<unsigned char>(utf8.at(0));
 }
 
 // The character at `at` of valid UTF-8, and its length; 0 when it is cut off by `end`.
@@ -68,47 +71,96 @@ TermFinder::TermFinder(const QString &term, bool matchCase, TextEncoding encodin
     : m_bytes(core::encodeText(term, encoding))
 {
     m_maxLength = m_bytes.size();
-    if (matchCase || m_bytes.isEmpty())
-        return;
-    if (encoding == TextEncoding::Windows1252) {
+    if (matchCase) {
+        for (qsizetype i = 0; i < m_bytes.size(); ++i)
+            addAnchor(i, {static_cast<unsigned char>(m_bytes[i])});
+    } else if (encoding == TextEncoding::Windows1252) {
         m_mode = Mode::Folded1252;
         const auto &folded = foldedBytes();
-        for (const char b : std::as_const(m_bytes))
-            m_folded.push_back(folded[static_cast<unsigned char>(b)]);
-        for (int b = 0; b < 256; ++b)
-            m_first[b] = folded[b] == m_folded.front();
-        return;
+        for (qsizetype i = 0; i < m_bytes.size(); ++i) {
+            m_folded.push_back(folded[static_cast<unsigned char>(m_bytes[i])]);
+            std::vector<unsigned char> forms;
+            for (int b = 0; b < 256; ++b) {
+                if (folded[b] == m_folded.back())
+                    forms.push_back(static_cast<unsigned char>(b));
+            }
+            if (i == 0) {
+                for (const unsigned char b : forms)
+                    m_first[b] = true;
+            }
+            addAnchor(i, forms);
+        }
+    } else {
+        m_mode = Mode::FoldedUtf8;
+        const auto &all = unfoldings();
+        for (const char32_t c : term.toUcs4()) {
+            const char32_t f = QChar::toCaseFolded(c);
+            std::vector<char32_t> forms;
+            if (QChar::toCaseFolded(f) == f)
+                forms.push_back(f);
+            auto it = std::lower_bound(all.begin(), all.end(), std::pair<char32_t, char32_t>(f, 0));
+            for (; it != all.end() && it->first == f; ++it)
+                forms.push_back(it->second);
+            std::vector<unsigned char> leads;
+            for (const char32_t form : forms) {
+                leads.push_back(static_cast<unsigned char>(QString::fromUcs4(&form, 1).toUtf8().at(0)));
+                if (m_folded.empty())
+                    m_first[leads.back()] = true;
+            }
+            addAnchor(qsizetype(m_folded.size()), leads);
+            m_folded.push_back(f);
+        }
+        m_maxLength = qsizetype(m_folded.size()) * 4;
     }
-    m_mode = Mode::FoldedUtf8;
-    for (const char32_t c : term.toUcs4())
-        m_folded.push_back(QChar::toCaseFolded(c));
-    m_maxLength = qsizetype(m_folded.size()) * 4;
-    const char32_t first = m_folded.front();
-    if (QChar::toCaseFolded(first) == first)
-        m_first[leadByte(first)] = true;
-    const auto &all = unfoldings();
-    auto it = std::lower_bound(all.begin(), all.end(), std::pair<char32_t, char32_t>(first, 0));
-    for (; it != all.end() && it->first == first; ++it)
-        m_first[leadByte(it->second)] = true;
+    if (!m_anchors.empty())
+        m_anchor = m_anchors.front();
+}
+
+void TermFinder::addAnchor(qsizetype before, std::vector<unsigned char> bytes)
+{
+    std::sort(bytes.begin(), bytes.end());
+    bytes.erase(std::unique(bytes.begin(), bytes.end()), bytes.end());
+    if (bytes.empty() || bytes.size() > 3)
+        return;
+    Anchor anchor;
+    anchor.before = before;
+    anchor.count = int(bytes.size());
+    std::copy(bytes.begin(), bytes.end(), anchor.bytes.begin());
+    m_anchors.push_back(anchor);
 }
 
 void TermFinder::tune(const char *sample, qsizetype size)
 {
-    if (m_mode != Mode::Exact || m_bytes.isEmpty())
+    if (m_anchors.empty())
         return;
     std::array<qsizetype, 256> count{};
     for (qsizetype i = 0; i < size; ++i)
         ++count[static_cast<unsigned char>(sample[i])];
-    for (qsizetype i = 1; i < m_bytes.size(); ++i) {
-        if (count[static_cast<unsigned char>(m_bytes[i])] < count[static_cast<unsigned char>(m_bytes[m_anchor])])
-            m_anchor = i;
+    auto seen = [&count](const Anchor &a) {
+        qsizetype sum = 0;
+        for (int i = 0; i < a.count; ++i)
+            sum += count[a.bytes[i]];
+        return sum;
+    };
+    for (const Anchor &a : m_anchors) {
+        if (seen(a) < seen(m_anchor))
+            m_anchor = a;
     }
 }
 
-qsizetype TermFinder::foldedLength(const unsigned char *at, const unsigned char *end) const
+// The length of a hit that starts at `at`, or -1 when none does.
+qsizetype TermFinder::hitLength(const unsigned char *at, const unsigned char *end) const
 {
     const unsigned char *p = at;
-    if (m_mode == Mode::Folded1252) {
+    switch (m_mode) {
+    case Mode::Exact: {
+        const auto *term = reinterpret_cast<const unsigned char *>(m_bytes.constData());
+        const qsizetype n = m_bytes.size();
+        if (end - at < n || at[0] != term[0] || at[n - 1] != term[n - 1] || std::memcmp(at, term, size_t(n)) != 0)
+            return -1;
+        return n;
+    }
+    case Mode::Folded1252: {
         if (end - p < qsizetype(m_folded.size()))
             return -1;
         const auto &folded = foldedBytes();
@@ -118,51 +170,84 @@ qsizetype TermFinder::foldedLength(const unsigned char *at, const unsigned char 
         }
         return p - at;
     }
-    for (const char32_t f : m_folded) {
-        if (p >= end)
-            return -1;
-        int length = 0;
-        const char32_t c = decodeAt(p, end, length);
-        if (length == 0 || QChar::toCaseFolded(c) != f)
-            return -1;
-        p += length;
+    case Mode::FoldedUtf8:
+        for (const char32_t f : m_folded) {
+            if (p >= end)
+                return -1;
+            int length = 0;
+            const char32_t c = decodeAt(p, end, length);
+            if (length == 0 || foldCase(c) != f)
+                return -1;
+            p += length;
+        }
+        return p - at;
     }
-    return p - at;
+    return -1;
+}
+
+// Where a hit whose anchor character is at `anchor` starts; -1 when that
+// would be before `from`.
+qsizetype TermFinder::startBefore(const unsigned char *text, qsizetype anchor, qsizetype from) const
+{
+    if (m_mode != Mode::FoldedUtf8)
+        return anchor - m_anchor.before;
+    qsizetype p = anchor;
+    for (qsizetype i = 0; i < m_anchor.before; ++i) {
+        do {
+            if (--p < from)
+                return -1;
+        } while ((text[p] & 0xC0) == 0x80);
+    }
+    return p;
+}
+
+// Looks for the anchor's bytes with memchr, each from where the last look
+// for it ended, and tries a hit at each one found. Hits come in order of
+// their anchors, and so of their starts: every hit has the same number of
+// characters before its anchor.
+qsizetype TermFinder::findAnchored(const unsigned char *text, qsizetype size, qsizetype from, qsizetype limit,
+                                   qsizetype &length) const
+{
+    const qsizetype widest = m_mode == Mode::FoldedUtf8 ? 4 * m_anchor.before : m_anchor.before;
+    const qsizetype end = std::min(limit + widest, size);
+    qsizetype next[3] = {-1, -1, -1};
+    for (qsizetype at = from + m_anchor.before; at < end;) {
+        qsizetype candidate = end;
+        for (int i = 0; i < m_anchor.count; ++i) {
+            if (next[i] < at) {
+                const void *found = std::memchr(text + at, m_anchor.bytes[i], size_t(end - at));
+                next[i] = found ? static_cast<const unsigned char *>(found) - text : end;
+            }
+            candidate = std::min(candidate, next[i]);
+        }
+        if (candidate >= end)
+            return -1;
+        at = candidate + 1;
+        const qsizetype start = startBefore(text, candidate, from);
+        if (start < 0)
+            continue;
+        if (start >= limit)
+            return -1;
+        const qsizetype hit = hitLength(text + start, text + size);
+        if (hit >= 0) {
+            length = hit;
+            return start;
+        }
+    }
+    return -1;
 }
 
 qsizetype TermFinder::find(const char *data, qsizetype size, qsizetype from, qsizetype limit, qsizetype &length) const
 {
-    const qsizetype termLength = m_bytes.size();
-    if (termLength == 0 || from >= limit)
+    if (m_bytes.isEmpty() || from >= limit)
         return -1;
-    if (m_mode == Mode::Exact) {
-        const char anchor = m_bytes[m_anchor];
-        const char *term = m_bytes.constData();
-        limit = std::min(limit, size - termLength + 1);
-        if (from >= limit)
-            return -1;
-        // The anchor byte of a hit that starts in [from, limit).
-        const char *p = data + from + m_anchor;
-        const char *end = data + limit + m_anchor;
-        while (p < end) {
-            p = static_cast<const char *>(std::memchr(p, anchor, size_t(end - p)));
-            if (!p)
-                return -1;
-            const char *start = p - m_anchor;
-            if (start[0] == term[0] && start[termLength - 1] == term[termLength - 1]
-                && std::memcmp(start, term, size_t(termLength)) == 0) {
-                length = termLength;
-                return start - data;
-            }
-            ++p;
-        }
-        return -1;
-    }
     const auto *text = reinterpret_cast<const unsigned char *>(data);
+    if (m_anchor.count > 0)
+        return findAnchored(text, size, from, limit, length);
     for (qsizetype i = from; i < limit; ++i) {
         if (!m_first[text[i]])
             continue;
-        const qsizetype hit = foldedLength(text + i, text + size);
+        const qsizetype hit = hitLength(text + i, text + size);
         if (hit >= 0) {
             length = hit;
             return i;

@@ -20,7 +20,8 @@ class TermFinder
 public:
     TermFinder(const QString &term, bool matchCase, core::TextEncoding encoding);
 
-    // Picks the term's byte to look for first: its rarest in `sample`.
+    // Picks where memchr looks first: the term's character whose bytes are
+    // rarest in `sample`.
     void tune(const char *sample, qsizetype size);
     // The first hit that starts in [from, limit) and ends within `size`:
     // its start, and its byte length in `length`; -1 when there is none.
@@ -30,12 +31,26 @@ public:
 
 private:
     enum class Mode { Exact, Folded1252, FoldedUtf8 };
-    qsizetype foldedLength(const unsigned char *at, const unsigned char *end) const;
+    // A character of the term whose every form starts with one of at most
+    // three bytes, with what comes before it in a hit: so many bytes, or in
+    // UTF-8 without regard to case so many characters (their forms may
+    // differ in length).
+    struct Anchor {
+        qsizetype before = 0;
+        std::array<unsigned char, 3> bytes{};
+        int count = 0;
+    };
+    void addAnchor(qsizetype before, std::vector<unsigned char> bytes);
+    qsizetype hitLength(const unsigned char *at, const unsigned char *end) const;
+    qsizetype startBefore(const unsigned char *text, qsizetype anchor, qsizetype from) const;
+    qsizetype findAnchored(const unsigned char *text, qsizetype size, qsizetype from, qsizetype limit,
+                           qsizetype &length) const;
 
     Mode m_mode = Mode::Exact;
     QByteArray m_bytes;                   // the term in the text's encoding
-    qsizetype m_anchor = 0;               // index of the byte memchr looks for
     qsizetype m_maxLength = 0;
+    std::vector<Anchor> m_anchors;        // the term's usable anchors
+    Anchor m_anchor;                      // the one looked for; none: every byte is tried with m_first
     std::array<bool, 256> m_first{};      // bytes a hit without regard to case starts with
     std::vector<char32_t> m_folded;       // the term's folded characters
 };
