@@ -37,12 +37,12 @@ public:
             add(std::make_unique<AliasStage>(alias, m_encoding));
     }
     void convertSlashesToUnix() override { add(std::make_unique<SlashStage>()); }
-
-    std::vector<std::unique_ptr<ByteStage>> stages;
+    const std::vector<std::unique_ptr<ByteStage>> &stages() const { return m_stages; }
 
 private:
-    void add(std::unique_ptr<ByteStage> stage) { stages.push_back(std::move(stage)); }
+    void add(std::unique_ptr<ByteStage> stage) { m_stages.push_back(std::move(stage)); }
     TextEncoding m_encoding;
+    std::vector<std::unique_ptr<ByteStage>> m_stages;
 };
 
 } // namespace
@@ -74,7 +74,7 @@ bool publishBytes(const QByteArray &page, TextEncoding encoding, const PassSetti
 {
     StageList list(encoding);
     runPasses(settings, list);
-    const auto &stages = list.stages;
+    const auto &stages = list.stages();
     // Each stage reads from its own buffer and writes into the next one's;
     // the last writes into `out`, which goes to the sink when it is full.
     std::vector<QByteArray> inputs(stages.size());
