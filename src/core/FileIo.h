@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSaveFile>
 #include <QString>
 
 namespace qly::core {
@@ -26,5 +27,22 @@ IoResult readWholeFile(const QString &path, QByteArray &bytes);
 // directory refuses new files but the file itself may be written, the file
 // is written in place.
 IoResult writeFileAtomically(const QString &path, const QByteArray &bytes);
+
+// The same replacement for a file that is written piece by piece as it is
+// made: nothing of it shows at `path` until commit() succeeds, and a writer
+// that is dropped uncommitted leaves the old file as it was.
+class AtomicFileWriter
+{
+public:
+    explicit AtomicFileWriter(const QString &path);
+    IoResult open();
+    // False once a write has failed; the failure is then commit()'s result.
+    bool write(const char *data, qsizetype size);
+    IoResult commit();
+
+private:
+    QSaveFile m_file;
+    IoResult m_failure;
+};
 
 } // namespace qly::core

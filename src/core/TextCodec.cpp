@@ -182,6 +182,16 @@ QByteArray utf8ToWindows1252(const QByteArray &utf8)
     return out;
 }
 
+char32_t decodeUtf8(const unsigned char *at, int length)
+{
+    if (length == 1)
+        return at[0];
+    char32_t c = at[0] & (0x7F >> length);
+    for (int i = 1; i < length; ++i)
+        c = (c << 6) | (at[i] & 0x3F);
+    return c;
+}
+
 DecodedFile decodeFile(const QByteArray &bytes)
 {
     DecodedFile file;

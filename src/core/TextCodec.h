@@ -21,6 +21,11 @@ QByteArray encodeText(const QString &text, TextEncoding encoding);
 QByteArray windows1252ToUtf8(const QByteArray &bytes);
 QByteArray utf8ToWindows1252(const QByteArray &utf8);
 
+// The byte length of the UTF-8 character that starts with `lead`.
+inline int utf8SequenceLength(unsigned char lead) { return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4; }
+// The character of valid UTF-8 at `at`, `length` bytes long.
+char32_t decodeUtf8(const unsigned char *at, int length);
+
 // Reads a file as text in its detected encoding.
 struct DecodedFile {
     QString text;

@@ -193,6 +193,22 @@ QString TranslateCharacters(const QString &text)
     return out;
 }
 
+std::vector<std::pair<char32_t, QString>> CharacterTranslations()
+{
+    std::vector<std::pair<char32_t, QString>> list;
+    if (g_rows.size() < 2)
+        return list;
+    const CompiledTable &c = compiled();
+    for (char32_t cp = c.lowest; cp < 0x10000; ++cp) {
+        if (c.bmp[cp] >= 0)
+            list.emplace_back(cp, c.outputs.at(c.bmp[cp]));
+    }
+    for (auto it = c.astral.cbegin(); it != c.astral.cend(); ++it)
+        list.emplace_back(it.key(), c.outputs.at(it.value()));
+    std::sort(list.begin(), list.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+    return list;
+}
+
 QString TranslateOneCharacter(const QString &text)
 {
     if (text.isEmpty())

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <utility>
 #include <vector>
 
 namespace qly::markup {
@@ -43,6 +44,10 @@ char32_t characterValue(const QString &code);
 // order, so that a later row also rewrites what an earlier one produced.
 // A text of exactly one character goes through TranslateOneCharacter.
 QString TranslateCharacters(const QString &text);
+
+// The table as one substitution, as TranslateCharacters applies it: each
+// character that changes, with what it finally becomes, lowest code first.
+std::vector<std::pair<char32_t, QString>> CharacterTranslations();
 
 // The entity of the first character of `text`, or the character itself when
 // its code is below 123 or the table has no row for it.

@@ -9,6 +9,8 @@
 
 #include <QFileInfo>
 
+#include <cstring>
+
 namespace qly::publish {
 
 namespace {
@@ -22,8 +24,7 @@ bool isYes(const QString &value)
 
 bool isDelimiter(QChar c)
 {
-    static const QString delimiters = QStringLiteral("!.,?;:()[]{} \r\n\t");
-    return delimiters.contains(c);
+    return c.unicode() < 0x80 && c.unicode() != 0 && std::strchr(kWordDelimiters, char(c.unicode()));
 }
 
 QString fromStored(QString field)

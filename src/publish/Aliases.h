@@ -20,6 +20,9 @@ struct Alias {
 // The field separator of aliases.inf: the control character 2.
 inline constexpr char16_t kAliasSeparator = 0x02;
 
+// What ends a word for a whole-word alias; the text's ends count too.
+inline constexpr char kWordDelimiters[] = "!.,?;:()[]{} \r\n\t";
+
 // The table of aliases.inf, in file order; empty when it has no alias.
 std::vector<Alias> &Aliases();
 

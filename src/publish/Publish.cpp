@@ -10,18 +10,17 @@
 #include "markup/CharacterCodes.h"
 #include "platform/Prompts.h"
 #include "publish/Aliases.h"
+#include "publish/Passes.h"
+#include "publish/PublishStream.h"
 
 #include <QFile>
 #include <QTime>
 
+#include <utility>
+
 namespace qly::publish {
 
 namespace {
-
-bool publishing(const char *key)
-{
-    return core::ReadSettingFlag(QStringLiteral("Publishing"), QString::fromLatin1(key));
-}
 
 // Every CR LF replaced by `with`, in one pass.
 void replaceLineEnds(QString &text, QStringView with)
@@ -42,34 +41,63 @@ void replaceLineEnds(QString &text, QStringView with)
     text = out;
 }
 
+// The passes on the characters of a text.
+class StringPasses : public PassTarget
+{
+public:
+    explicit StringPasses(QString &text)
+        : m_text(text)
+    {
+    }
+    void replaceLineEnds(const char *with) override { publish::replaceLineEnds(m_text, QString::fromLatin1(with)); }
+    void translateCharacters() override { m_text = markup::TranslateCharacters(m_text); }
+    void applyAliases() override { ApplyAliases(m_text); }
+    void convertSlashesToUnix() override { ConvertSlashes(m_text, QStringLiteral("TOUNIX")); }
+
+private:
+    QString &m_text;
+};
+
+// Publishes the bytes of a page into `target`, which is replaced whole once
+// it is complete. Where the passes give the same result on the page's bytes
+// as on its characters, the bytes go through them piece by piece and are
+// written as they come; otherwise the page is decoded, published as
+// characters and written at the end.
+core::IoResult publishInto(const QString &target, const QByteArray &page)
+{
+    core::AtomicFileWriter writer(target);
+    const core::IoResult opened = writer.open();
+    if (!opened.ok())
+        return opened;
+    const core::TextEncoding encoding = core::detectEncoding(page);
+    const PassSettings settings = readPassSettings();
+    if (canPublishBytes(settings, encoding)) {
+        bool writing = false;
+        const auto sink = [&writer, &writing](const char *data, qsizetype size) {
+            if (!std::exchange(writing, true))
+                core::ShowStatus(QStringLiteral("Writing file..."));
+            return writer.write(data, size);
+        };
+        publishBytes(page, encoding, settings, sink);
+        if (!writing)
+            core::ShowStatus(QStringLiteral("Writing file..."));
+    } else {
+        QString text = core::decodeText(page, encoding);
+        StringPasses passes(text);
+        runPasses(settings, passes);
+        const QByteArray bytes = core::encodeText(text, encoding);
+        core::ShowStatus(QStringLiteral("Writing file..."));
+        writer.write(bytes.constData(), bytes.size());
+    }
+    return writer.commit();
+}
+
 } // namespace
 
 QString PublishText(QString &text)
 {
-    core::ShowStatus(QStringLiteral("Processing Carriage Returns..."));
-    if (publishing("Convert CRLF"))
-        replaceLineEnds(text, u"<BR>");
-    if (publishing("Strip CRLF"))
-        replaceLineEnds(text, u"");
-    core::ShowStatus(QStringLiteral("Processing Carriage Returns - DOS To Unix"));
-    const bool unixText = publishing("Publish as UNIX Text");
-    if (unixText)
-        replaceLineEnds(text, u"\n");
-    core::ShowStatus(QStringLiteral("Translating extended characters..."));
-    if (publishing("Translate Extended Characters")) {
-        markup::EnsureCharacterCodes();
-        text = markup::TranslateCharacters(text);
-    }
-    if (publishing("Use Aliases")) {
-        core::ShowStatus(QStringLiteral("Translating aliases..."));
-        if (unixText)
-            aliasesToUnixLineEnds();
-        ApplyAliases(text);
-    }
-    if (publishing("Use UNIX Slashes")) {
-        core::ShowStatus(QStringLiteral("Translating UNIX slashes..."));
-        ConvertSlashes(text, QStringLiteral("TOUNIX"));
-    }
+    StringPasses passes(text);
+    runPasses(readPassSettings(), passes);
     return text;
 }
 
@@ -173,14 +201,15 @@ bool PublishFile(const QString &source, const QString &target)
                          read.message);
         core::BeginWait();
         bytes.clear();
-    } else {
-        core::DecodedFile file = core::decodeFile(bytes);
-        bytes.clear();
-        PublishText(file.text);
-        bytes = core::encodeText(file.text, file.encoding);
     }
-    core::ShowStatus(QStringLiteral("Writing file..."));
-    const core::IoResult written = core::writeFileAtomically(target, bytes);
+    core::IoResult written;
+    if (failed) {
+        // The target is written all the same, empty.
+        core::ShowStatus(QStringLiteral("Writing file..."));
+        written = core::writeFileAtomically(target, bytes);
+    } else {
+        written = publishInto(target, bytes);
+    }
     core::EndWait();
     if (!written.ok()) {
         platform::MsgBox(QStringLiteral("Couldn't write ") + target + QStringLiteral(": ") + written.message,

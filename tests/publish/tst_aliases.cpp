@@ -1,4 +1,5 @@
 #include "publish/Aliases.h"
+#include "support/PublishRules.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -6,34 +7,6 @@
 #include <QtTest>
 
 using namespace qly;
-
-namespace {
-
-bool delimiter(QChar c)
-{
-    return QStringLiteral("!.,?;:()[]{} \r\n\t").contains(c);
-}
-
-// The substitution as the rule tells it, rebuilding the text at each hit.
-QString byRule(QString text, const QString &term, const QString &replacement, bool matchCase, bool wholeWord)
-{
-    const Qt::CaseSensitivity cs = matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
-    qsizetype p = text.indexOf(term, 0, cs);
-    while (p >= 0) {
-        bool skip = false;
-        if (wholeWord) {
-            const qsizetype end = p + term.size();
-            skip = (p > 0 && !delimiter(text.at(p - 1))) || (end < text.size() && !delimiter(text.at(end)));
-        }
-        if (!skip)
-            text = text.left(p) + replacement + text.mid(p + term.size());
-        // An empty replacement after a skipped hit would find it forever.
-        p = text.indexOf(term, p + (skip ? std::max<qsizetype>(replacement.size(), 1) : replacement.size()), cs);
-    }
-    return text;
-}
-
-} // namespace
 
 class tst_Aliases : public QObject
 {
@@ -153,7 +126,7 @@ void tst_Aliases::matchesTheRuleOnRandomText()
         publish::ReplaceInText(actual, term, replacement, matchCase, wholeWord, false);
         const QString what = QStringList{text, term, replacement, QString::number(matchCase),
                                          QString::number(wholeWord), actual}.join(u'|');
-        QVERIFY2(actual == byRule(text, term, replacement, matchCase, wholeWord), qPrintable(what));
+        QVERIFY2(actual == test::replaceByRule(text, term, replacement, matchCase, wholeWord), qPrintable(what));
     }
 }
 

@@ -4,6 +4,7 @@
 #include "publish/Aliases.h"
 #include "publish/Publish.h"
 #include "support/FakeWorkspace.h"
+#include "support/PublishRules.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -22,25 +23,6 @@ QByteArray readFile(const QString &path)
 {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
-}
-
-// Slashes inside tags by the rule, rebuilding the text around each span.
-QString slashesByRule(QString text)
-{
-    qsizetype p = text.indexOf(u'<');
-    while (p >= 0) {
-        ++p;
-        if (p >= text.size())
-            break;
-        const qsizetype q = text.indexOf(u'>', p);
-        if (q > p) {
-            text = text.left(p) + text.mid(p, q - p).replace(u'\\', u'/') + text.mid(q);
-            p = text.indexOf(u'<', q);
-        } else {
-            p = text.indexOf(u'<', p + 1);
-        }
-    }
-    return text;
 }
 
 } // namespace
@@ -122,7 +104,7 @@ void tst_Publish::slashesMatchTheRuleOnRandomText()
         for (int i = int(rng->bounded(24)); i > 0; --i)
             text += alphabet.at(int(rng->bounded(alphabet.size())));
         QString copy = text;
-        QCOMPARE(publish::ConvertSlashes(copy, QStringLiteral("TOUNIX")), slashesByRule(text));
+        QCOMPARE(publish::ConvertSlashes(copy, QStringLiteral("TOUNIX")), test::slashesByRule(text));
     }
 }
 
