@@ -1,5 +1,7 @@
 #include "documents/ui/frmNewDoc.h"
 
+#include "core/ui/Help.h"
+
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
@@ -52,13 +54,9 @@ frmNewDoc::frmNewDoc(QWidget *parent)
     ok->setObjectName(QStringLiteral("OK"));
     ok->setDefault(true);
     buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("Cancel"));
-    QPushButton *help = buttons->addButton(QStringLiteral("Help"), QDialogButtonBox::HelpRole);
-    help->setObjectName(QStringLiteral("Command1"));
+    core::ui::addHelpButton(buttons, this, QStringLiteral("Command1"));
     connect(buttons, &QDialogButtonBox::accepted, this, &frmNewDoc::OK_Click);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
-        QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
-    });
     layout->addWidget(buttons);
 
     m_kinds->button(NewDocModel::Normal)->setChecked(true);

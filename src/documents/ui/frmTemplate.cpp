@@ -1,5 +1,7 @@
 #include "documents/ui/frmTemplate.h"
 
+#include "core/ui/Help.h"
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -25,7 +27,7 @@ frmTemplate::frmTemplate(QWidget *parent)
     ok->setDefault(true);
     ok->setEnabled(false);
     buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdCancel"));
-    buttons->addButton(QStringLiteral("Help"), QDialogButtonBox::HelpRole)->setObjectName(QStringLiteral("cmdHelp"));
+    core::ui::addHelpButton(buttons, this, QStringLiteral("cmdHelp"));
     layout->addRow(buttons);
 
     connect(m_txtName, &QLineEdit::textChanged, ok, [ok](const QString &text) { ok->setEnabled(!text.trimmed().isEmpty()); });
@@ -36,9 +38,6 @@ frmTemplate::frmTemplate(QWidget *parent)
     connect(buttons, &QDialogButtonBox::rejected, this, [this] {
         m_tag = QStringLiteral("0");
         reject();
-    });
-    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
-        QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
     });
 }
 

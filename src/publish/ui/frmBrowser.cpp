@@ -1,5 +1,7 @@
 #include "publish/ui/frmBrowser.h"
 
+#include "core/ui/Help.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -49,7 +51,7 @@ frmBrowser::frmBrowser(QWidget *parent)
     ok->setObjectName(QStringLiteral("cmdOptions(0)"));
     ok->setDefault(true);
     buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdOptions(1)"));
-    buttons->addButton(QStringLiteral("Help"), QDialogButtonBox::HelpRole)->setObjectName(QStringLiteral("cmdOptions(2)"));
+    core::ui::addHelpButton(buttons, this, QStringLiteral("cmdOptions(2)"));
     layout->addWidget(buttons);
 
     connect(add, &QPushButton::clicked, this, [this] { showRows(m_model.btnAdd_Click()); });
@@ -80,12 +82,6 @@ void frmBrowser::showRows(int select)
 
 void frmBrowser::cmdOptions_Click(int index)
 {
-    if (index == 2) {
-        // The help key goes to the window behind, which outlives the dialog.
-        QWidget *target = parentWidget() ? parentWidget() : this;
-        QApplication::postEvent(target, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
-        QApplication::postEvent(target, new QKeyEvent(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier));
-    }
     m_tag = index == 0 ? QStringLiteral("1") : QStringLiteral("0");
     if (index == 0)
         accept();
