@@ -1,5 +1,6 @@
 #include "app/frmOptions.h"
 
+#include "core/ui/DialogFlags.h"
 #include "core/OptionsHooks.h"
 #include "documents/Workspace.h"
 #include "app/Main.h"
@@ -62,7 +63,7 @@ int toStored(const QColor &c)
 } // namespace
 
 frmOptions::frmOptions(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
 {
     setObjectName(QStringLiteral("frmOptions"));
     setWindowTitle(QStringLiteral("Quillery Options"));

@@ -1,5 +1,6 @@
 #include "core/Settings.h"
 #include "app/frmOptions.h"
+#include "core/ui/DialogFlags.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -198,6 +199,8 @@ void tst_frmOptions::publishCaptionsAndHelpButton()
                                     QStringLiteral("Convert extended characters to HTML codes"),
                                     QStringLiteral("Replace \\ with / in file names")}));
     QVERIFY(!control<QPushButton>(d, "cmdOptions(2)")->icon().isNull());
+    // Only a title and a close box: window managers add no minimise or maximise box then.
+    QVERIFY((d.windowFlags() & core::ui::kDialogFlags) == core::ui::kDialogFlags);
     QVERIFY(!(d.windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
 }
 

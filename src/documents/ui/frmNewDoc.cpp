@@ -1,5 +1,6 @@
 #include "documents/ui/frmNewDoc.h"
 
+#include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 
 #include <QApplication>
@@ -16,7 +17,7 @@
 namespace qly::documents::ui {
 
 frmNewDoc::frmNewDoc(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
     , m_kinds(new QButtonGroup(this))
 {
     setObjectName(QStringLiteral("frmNewDoc"));

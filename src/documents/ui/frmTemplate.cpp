@@ -1,5 +1,6 @@
 #include "documents/ui/frmTemplate.h"
 
+#include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 
 #include <QApplication>
@@ -12,7 +13,7 @@
 namespace qly::documents::ui {
 
 frmTemplate::frmTemplate(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
     , m_txtName(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("frmTemplate"));

@@ -1,5 +1,6 @@
 #include "publish/ui/frmBrowser.h"
 
+#include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 
 #include <QApplication>
@@ -14,7 +15,7 @@
 namespace qly::publish::ui {
 
 frmBrowser::frmBrowser(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
 {
     setObjectName(QStringLiteral("frmBrowser"));
     setWindowTitle(QStringLiteral("Choose Browser"));

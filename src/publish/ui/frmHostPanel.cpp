@@ -1,5 +1,6 @@
 #include "publish/ui/frmHostPanel.h"
 
+#include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 #include "publish/HostPanelModel.h"
 
@@ -12,7 +13,7 @@
 namespace qly::publish::ui {
 
 frmHostPanel::frmHostPanel(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
 {
     setObjectName(QStringLiteral("frmHostPanel"));
     setWindowTitle(QStringLiteral("Hosting Control Panel Setup"));
@@ -42,6 +43,7 @@ frmHostPanel::frmHostPanel(QWidget *parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &frmHostPanel::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addRow(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmHostPanel::accept()
