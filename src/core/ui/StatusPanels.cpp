@@ -1,6 +1,7 @@
 #include "core/ui/StatusPanels.h"
 
 #include "core/StatusText.h"
+#include "core/ui/KeyboardLocks.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -33,6 +34,8 @@ StatusPanels::StatusPanels(QStatusBar *bar)
     });
     // The NUM panel follows the keyboard, whichever window has it.
     qApp->installEventFilter(this);
+    if (const std::optional<bool> on = numLockNow())
+        setNumLock(*on);
     connect(m_clock, &QTimer::timeout, this, &StatusPanels::updateTime);
     m_clock->start(1000);
     updateTime();
