@@ -3,12 +3,10 @@
 #include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 
-#include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>

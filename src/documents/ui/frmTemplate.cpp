@@ -3,10 +3,8 @@
 #include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 

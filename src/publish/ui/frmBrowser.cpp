@@ -3,11 +3,9 @@
 #include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
