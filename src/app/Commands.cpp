@@ -2,16 +2,14 @@
 
 #include "app/MainWindow.h"
 #include "app/frmOptions.h"
-#include "core/Paths.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
+#include "core/ui/Help.h"
 #include "core/ui/frmMe.h"
 #include "documents/ui/DocumentCommands.h"
 #include "markup/ui/MarkupCommands.h"
+#include "platform/Prompts.h"
 #include "publish/ui/PreviewCommands.h"
-
-#include <QDesktopServices>
-#include <QUrl>
 
 namespace qly::app {
 
@@ -22,7 +20,8 @@ QString N(const char *name)
     return QString::fromLatin1(name);
 }
 
-// The commands of the main window itself: exit, options, help.
+// The commands of the main window itself: exit, options, help, and the
+// website messages.
 void registerMainCommands(frmMain &w)
 {
     core::ui::CommandTable &t = w.commands();
@@ -30,13 +29,17 @@ void registerMainCommands(frmMain &w)
     t.bind(N("ToolsOptions"), [&w] { ShowOptions(w); });
     t.bind(N("EditBrowsers"), [&w] { ShowOptions(w, core::OptionsTab::ExternalBrowsers); });
 
-    const auto openHelp = [] {
-        QDesktopServices::openUrl(
-            QUrl::fromLocalFile(core::JoinPath(core::ProgramDirectory(), QStringLiteral("help/index.html"))));
-    };
-    t.bind(N("HelpContents"), openHelp);
-    t.bind(N("HelpSearch"), openHelp);
+    t.bind(N("HelpContents"), [] { core::ui::OpenHelp(); });
+    t.bind(N("HelpSearch"), [] { core::ui::OpenHelp(); });
     t.bind(N("HelpAbout"), [&w] { core::ui::frmMe(&w); });
+
+    // No website is open before the website manager is built, so none is selected.
+    t.bind(N("FileAddFiles"), [] {
+        platform::MsgBox(QStringLiteral("Please select a Website before adding files to it."));
+    });
+    t.bind(N("mnuUploadProject"), [] {
+        platform::MsgBox(QStringLiteral("Please select a Website before uploading it."));
+    });
 }
 
 } // namespace

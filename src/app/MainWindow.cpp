@@ -136,6 +136,7 @@ documents::Document *frmMain::makeDocumentWindow(bool explorerInternal)
         keys << m_commands->action(name)->shortcut();
     doc->edit()->releaseKeys(keys);
     connect(doc, &DocumentWindow::popupRequested, this, [this](const QPoint &at) { m_mnuPopupHd->popup(at); });
+    connect(doc, &DocumentWindow::overwriteChanged, m_panels, &StatusPanels::setOverwrite);
     return doc;
 }
 

@@ -1,5 +1,6 @@
 #include "app/frmOptions.h"
 
+#include "core/ui/DialogFlags.h"
 #include "core/OptionsHooks.h"
 #include "documents/Workspace.h"
 #include "app/Main.h"
@@ -22,6 +23,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTabWidget>
+#include "core/ui/Help.h"
 #include "publish/ui/AliasEditor.h"
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -61,7 +63,7 @@ int toStored(const QColor &c)
 } // namespace
 
 frmOptions::frmOptions(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
 {
     setObjectName(QStringLiteral("frmOptions"));
     setWindowTitle(QStringLiteral("Quillery Options"));
@@ -73,13 +75,12 @@ frmOptions::frmOptions(QWidget *parent)
     for (int i = 0; i < kOptionsTabCount; ++i)
         m_tabs->addTab(pages[i], optionsTabCaption(OptionsTab(i)));
 
-    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
+    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     box->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOptions(0)"));
     box->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdOptions(1)"));
-    box->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("cmdOptions(2)"));
+    core::ui::addHelpButton(box, this, QStringLiteral("cmdOptions(2)"));
     connect(box, &QDialogButtonBox::accepted, this, &frmOptions::accept);
     connect(box, &QDialogButtonBox::rejected, this, &frmOptions::reject);
-    connect(box, &QDialogButtonBox::helpRequested, this, &frmOptions::sendHelpKey);
 
     auto *v = new QVBoxLayout(this);
     v->addWidget(m_tabs);
@@ -161,10 +162,11 @@ void frmOptions::showBrowsers()
 
 void frmOptions::accept()
 {
-    m_model.commit();
-    // The aliases go to their own file; a failure has been told and the dialog stays.
+    // The aliases go to their own file first: when that fails, the user has
+    // been told and the dialog stays with nothing committed.
     if (!m_aliases->save())
         return;
+    m_model.commit();
     QDialog::accept();
 }
 
@@ -185,13 +187,6 @@ bool frmOptions::eventFilter(QObject *watched, QEvent *event)
         }
     }
     return QDialog::eventFilter(watched, event);
-}
-
-void frmOptions::sendHelpKey()
-{
-    QWidget *target = focusWidget() ? focusWidget() : this;
-    QApplication::postEvent(target, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
-    QApplication::postEvent(target, new QKeyEvent(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier));
 }
 
 void ShowOptions(frmMain &main, OptionsTab tab)

@@ -65,7 +65,6 @@ private:
     void showColour(int index);
     void showBrowsers();
     void pickColour(int index);
-    void sendHelpKey();
 
     core::OptionsModel m_model;
     QTabWidget *m_tabs = nullptr;

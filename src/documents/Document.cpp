@@ -6,6 +6,7 @@
 #include "core/Settings.h"
 #include "documents/FileFilter.h"
 #include "documents/FileRegistry.h"
+#include "documents/Workspace.h"
 #include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
@@ -38,7 +39,7 @@ void reportSaveFailure(const QString &path, const IoResult &result)
                      QStringLiteral("Problem Saving File"));
 }
 
-// The text between <TITLE> and </TITLE>, found without regard to case.
+// The text between <TITLE> and </TITLE> as it stands, found without regard to case.
 QString pageTitle(const QString &text)
 {
     const qsizetype open = text.indexOf(QLatin1String("<TITLE>"), 0, Qt::CaseInsensitive);
@@ -48,7 +49,7 @@ QString pageTitle(const QString &text)
     const qsizetype close = text.indexOf(QLatin1String("</TITLE>"), from, Qt::CaseInsensitive);
     if (close < 0)
         return {};
-    return text.mid(from, close - from).trimmed();
+    return text.mid(from, close - from);
 }
 
 } // namespace
@@ -175,7 +176,24 @@ IoResult Document::RawSaveFile(const QString &path)
 
 void Document::ShowCaptionAndTab(const QString &name, bool)
 {
-    setCaption(name);
+    // A second window of the same file is told apart by ":2", a third by ":3" ...
+    QList<int> taken;
+    if (Workspace *ws = Workspace::instance()) {
+        for (const Document *other : ws->documentList()) {
+            if (other == this || StripDocSuffix(other->caption()) != name)
+                continue;
+            const QString caption = other->caption();
+            taken << (caption == name ? 1 : caption.mid(caption.lastIndexOf(u':') + 1).trimmed().toInt());
+        }
+    }
+    QString caption = name;
+    if (!taken.isEmpty()) {
+        int n = 2;
+        while (taken.contains(n))
+            ++n;
+        caption += u':' + QString::number(n);
+    }
+    setCaption(caption);
     ShowFileName = name;
 }
 

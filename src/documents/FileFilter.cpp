@@ -7,7 +7,9 @@ namespace qly::documents {
 QString WebPageMasks()
 {
     QString masks = QStringLiteral("*.htm;*.html;*.shtml;*.ht3;*.pub");
-    const QString ext = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Extension"));
+    QString ext = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"));
+    if (ext.isEmpty())
+        ext = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Extension"));
     if (!ext.isEmpty()) {
         const QString mask = QStringLiteral("*.") + ext.toLower();
         if (!masks.split(u';').contains(mask))

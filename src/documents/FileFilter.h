@@ -8,8 +8,9 @@ namespace qly::documents {
 // extension of [Editing]), text files, CGI files, all files.
 QString FileFilter();
 
-// The masks of web pages, "*.htm;*.html;...", with the default extension of
-// [Editing] when it is another one.
+// The masks of web pages, "*.htm;*.html;...", with the default document
+// extension of [Editing] ("Default Extension" when that is empty) when it is
+// another one.
 QString WebPageMasks();
 
 } // namespace qly::documents

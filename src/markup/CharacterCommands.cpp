@@ -31,6 +31,11 @@ void TranslateKey(int &keyAscii)
             keyAscii = 0;
         }
     }
+    NoteKey();
+}
+
+void NoteKey()
+{
     g_lastKey = QDateTime::currentDateTime();
 }
 

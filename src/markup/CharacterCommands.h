@@ -15,7 +15,10 @@ namespace qly::markup {
 // becomes 0, so the buffer does not insert the key itself. Every call
 // records the moment of the last key.
 void TranslateKey(int &keyAscii);
-// When the last key went through TranslateKey; colouring waits on it.
+// Records the present moment as that of the last key in a document.
+void NoteKey();
+// When the last key in a document went down or up: project timing, colouring
+// and the preview's idle test wait on it.
 QDateTime lastKeyTime();
 
 // Replaces the selection of `target` with its translation.

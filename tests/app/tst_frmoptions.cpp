@@ -1,5 +1,6 @@
 #include "core/Settings.h"
 #include "app/frmOptions.h"
+#include "core/ui/DialogFlags.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -11,6 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTableWidget>
 
 using namespace qly;
 
@@ -40,6 +42,8 @@ private slots:
     void controlsFollowTheirRules();
     void okWritesAndCancelDoesNot();
     void defaultBrowserIsMarkedAndWritten();
+    void aliasesAreWrittenOnlyWhenEditedAndFirst();
+    void publishCaptionsAndHelpButton();
 };
 
 void tst_frmOptions::showsTheStoredSettings()
@@ -119,6 +123,7 @@ void tst_frmOptions::okWritesAndCancelDoesNot()
     QCOMPARE(setting("General", "AutoSave"), QStringLiteral("15"));
     QCOMPARE(setting("General", "Big First Letter Size"), QStringLiteral("-3"));
     QVERIFY(prompts.shown.isEmpty());   // a bookmark source is on
+    QVERIFY(!QFile::exists(env.path(QStringLiteral("aliases.inf"))));   // no alias edited: none made
 }
 
 void tst_frmOptions::defaultBrowserIsMarkedAndWritten()
@@ -139,6 +144,64 @@ void tst_frmOptions::defaultBrowserIsMarkedAndWritten()
     list->setCurrentRow(0);
     remove->click();
     QCOMPARE(list->count(), 1);
+}
+
+void tst_frmOptions::aliasesAreWrittenOnlyWhenEditedAndFirst()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    // Windows-1252, a line that is no alias, "yes" in lower case, no line end at the end.
+    const QByteArray file("caf\xe9\x02" "coffee \x80\x02yes\x02no\r\n; \xe9t\xe9\r\nx\x02y\x02");
+    env.write(QStringLiteral("aliases.inf"), file);
+    {
+        app::frmOptions d;
+        control<QCheckBox>(d, "chkGeneral(2)")->setChecked(false);
+        control<QPushButton>(d, "cmdOptions(0)")->click();
+        QCOMPARE(d.result(), int(QDialog::Accepted));
+        QCOMPARE(env.read(QStringLiteral("aliases.inf")), file);
+    }
+    {
+        // An edit rewrites the edited alias's line only.
+        app::frmOptions d;
+        auto *grid = control<QTableWidget>(d, "grdAliases");
+        QCOMPARE(grid->rowCount(), 2);
+        grid->item(1, 3)->setCheckState(Qt::Checked);
+        control<QPushButton>(d, "cmdOptions(0)")->click();
+        QCOMPARE(d.result(), int(QDialog::Accepted));
+        QCOMPARE(env.read(QStringLiteral("aliases.inf")),
+                 QByteArray("caf\xe9\x02" "coffee \x80\x02yes\x02no\r\n; \xe9t\xe9\r\nx\x02y\x02No\x02Yes"));
+    }
+
+    // The aliases cannot be written: the dialog stays, and no setting was written.
+    test::TestEnv blocked;
+    QVERIFY(QDir(blocked.dir()).mkdir(QStringLiteral("aliases.inf")));
+    app::frmOptions d;
+    control<QCheckBox>(d, "chkGeneral(2)")->setChecked(false);
+    control<QPushButton>(d, "btnNew")->click();
+    control<QTableWidget>(d, "grdAliases")->item(0, 0)->setText(QStringLiteral("w"));
+    const qsizetype shown = prompts.shown.size();
+    control<QPushButton>(d, "cmdOptions(0)")->click();
+    QVERIFY(d.result() != int(QDialog::Accepted));
+    QCOMPARE(prompts.shown.size(), shown + 1);
+    QVERIFY(prompts.shown.last().text.startsWith(QStringLiteral("Could not save the aliases")));
+    QVERIFY(!QFile::exists(blocked.ini()));
+}
+
+void tst_frmOptions::publishCaptionsAndHelpButton()
+{
+    test::TestEnv env;
+    app::frmOptions d;
+    QStringList captions;
+    for (const char *name : {"chkPublish(0)", "chkPublish(1)", "chkPublish(2)", "chkPublish(3)"})
+        captions << control<QCheckBox>(d, name)->text();
+    QCOMPARE(captions, QStringList({QStringLiteral("Remove all carriage returns"),
+                                    QStringLiteral("Publish as UNIX text file"),
+                                    QStringLiteral("Convert extended characters to HTML codes"),
+                                    QStringLiteral("Replace \\ with / in file names")}));
+    QVERIFY(!control<QPushButton>(d, "cmdOptions(2)")->icon().isNull());
+    // Only a title and a close box: window managers add no minimise or maximise box then.
+    QVERIFY((d.windowFlags() & core::ui::kDialogFlags) == core::ui::kDialogFlags);
+    QVERIFY(!(d.windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
 }
 
 QTEST_MAIN(tst_frmOptions)

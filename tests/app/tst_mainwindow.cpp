@@ -9,6 +9,8 @@
 #include "documents/DocumentList.h"
 #include "documents/ui/DocumentWindow.h"
 #include "documents/ui/ScintillaEdit.h"
+#include "markup/CharacterCodes.h"
+#include "markup/CharacterCommands.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -16,6 +18,8 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <QAction>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMdiArea>
@@ -40,6 +44,8 @@ private slots:
     void everyKeyHasOneOwner();
     void windowMenuListsTheDocuments();
     void captionMarksUnsavedChanges();
+    void keysDriveThePanelsAndTheTypingHook();
+    void secondWindowAndTabsWhileLoading();
 
 private:
     std::unique_ptr<test::TestEnv> m_env;
@@ -301,6 +307,84 @@ void tst_MainWindow::captionMarksUnsavedChanges()
     QVERIFY(m_main->commands().run(QStringLiteral("mnuSaveAs")));
     QCOMPARE(m_env->read(other), QByteArray("!?text"));
     QVERIFY(sub->windowTitle().startsWith(other) && sub->isWindowModified());
+}
+
+namespace {
+
+void send(QWidget *to, QEvent::Type type, int key, const QString &text = {}, quint32 nativeModifiers = 0)
+{
+    QKeyEvent event(type, key, Qt::NoModifier, 0, 0, nativeModifiers, text);
+    QApplication::sendEvent(to, &event);
+}
+
+} // namespace
+
+void tst_MainWindow::keysDriveThePanelsAndTheTypingHook()
+{
+    m_env->write(QStringLiteral("character.inf"), "233;&eacute;e acute\r\n188;&frac14;one quarter\r\n");
+    markup::LoadCharacterCodes();
+    QVERIFY(documents::OpenDocumentFile(m_env->write(QStringLiteral("sax.html"), "")));
+    auto *sax = dynamic_cast<DocumentWindow *>(m_main->activeDocument());
+    QsciScintilla *view = sax->edit()->view();
+    QLabel *ins = m_main->statusPanels().panel(QStringLiteral("Ins"));
+    QLabel *num = m_main->statusPanels().panel(QStringLiteral("Num"));
+
+    // Every key counts as activity, also with translation off.
+    const QDateTime before = QDateTime::currentDateTime();
+    QTest::keyClick(view, Qt::Key_A, Qt::NoModifier);
+    QVERIFY(markup::lastKeyTime() >= before);
+    QCOMPARE(sax->txtDoc().Text(), QStringLiteral("a"));
+
+    // Insert toggles overwrite in the control, and the panel says so.
+    QTest::keyClick(view, Qt::Key_Insert);
+    QVERIFY(view->overwriteMode());
+    QCOMPARE(ins->text(), QStringLiteral("OVR"));
+    QTest::keyClick(view, Qt::Key_Insert);
+    QCOMPARE(ins->text(), QStringLiteral("INS"));
+
+    // NUM follows the lock state that key events carry (Mod2 on X11).
+    send(view, QEvent::KeyRelease, Qt::Key_Shift, {}, 0x10);
+    QCOMPARE(num->text(), QStringLiteral("NUM"));
+    send(view, QEvent::KeyPress, Qt::Key_NumLock, {}, 0x10);
+    QCOMPARE(num->text(), QString());
+
+    // Typed, composed by dead keys or an input method: the entity goes in.
+    core::gTranslateWhileTyping = true;
+    send(view, QEvent::KeyPress, Qt::Key_Eacute, QStringLiteral("\u00e9"));
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("x\u00e9"));
+    QApplication::sendEvent(view, &composed);
+    QCOMPARE(sax->txtDoc().Text(), QStringLiteral("a&eacute;x&eacute;"));
+    // In this window kind the key going up is no character.
+    QTest::keyClick(view, Qt::Key_Comma);
+    QCOMPARE(sax->txtDoc().Text(), QStringLiteral("a&eacute;x&eacute;,"));
+
+    // The other kind passes the key's code through the hook as it goes up:
+    // "," is 188 there, a row of the table.
+    core::WriteSetting(QStringLiteral("Display"), QStringLiteral("Explorer Internal"), QStringLiteral("Yes"));
+    QVERIFY(documents::OpenDocumentFile(m_env->write(QStringLiteral("web.html"), "")));
+    auto *web = dynamic_cast<DocumentWindow *>(m_main->activeDocument());
+    QCOMPARE(web->kindName(), QStringLiteral("frmDocWeb"));
+    QTest::keyClick(web->edit()->view(), Qt::Key_Comma);
+    QCOMPARE(web->txtDoc().Text(), QStringLiteral(",&frac14;"));
+    core::gTranslateWhileTyping = false;
+}
+
+void tst_MainWindow::secondWindowAndTabsWhileLoading()
+{
+    const QString file = m_env->write(QStringLiteral("twice.html"), "<P>x</P>");
+    QVERIFY(documents::OpenDocumentFile(file));
+    QVERIFY(documents::OpenDocumentFile(file));
+    auto *second = dynamic_cast<DocumentWindow *>(m_main->activeDocument());
+    QCOMPARE(second->caption(), file + QStringLiteral(":2"));
+    QCOMPARE(second->windowTitle(), file + QStringLiteral(":2"));
+
+    // A tab switch while a document loads does not fill the preview.
+    core::gLoadingDocument = true;
+    second->selectTab(1);
+    core::gLoadingDocument = false;
+    QCOMPARE(second->currentTab(), 1);
+    QVERIFY(second->scoutFile().isEmpty());
 }
 
 QTEST_MAIN(tst_MainWindow)

@@ -45,6 +45,11 @@ void tst_FileOpen::backupCopies()
     QVERIFY(OpenDocumentFile(page));
     QCOMPARE(ws.count(), 2);
     QCOMPARE(env.read(QStringLiteral("site/page.bak")), QByteArray("second"));
+    // The second window's caption carries the suffix ":2"; its name stays the path.
+    QCOMPARE(ws.document(0)->caption(), page);
+    QCOMPARE(ws.document(1)->caption(), page + QStringLiteral(":2"));
+    QCOMPARE(ws.document(1)->ShowFileName, page);
+    QCOMPARE(ws.document(1)->captionPath(), page);
 
     // A .bak opened is its own backup path: it is neither deleted nor copied.
     QVERIFY(OpenDocumentFile(env.path(QStringLiteral("site/page.bak"))));

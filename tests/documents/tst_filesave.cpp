@@ -25,6 +25,7 @@ private slots:
     void sessionListLimit();
     void autoSaveThreshold_data();
     void autoSaveThreshold();
+    void saveAsProposesTitleAndFilter();
 };
 
 namespace {
@@ -235,6 +236,30 @@ void tst_FileSave::autoSaveThreshold()
     QCOMPARE(ws.document(0)->LocalFileName, page);
     QCOMPARE(env.read(QStringLiteral("page.htm")), QByteArray("on disk"));
     documents::autoSaveTimerSwitch() = nullptr;
+}
+
+void tst_FileSave::saveAsProposesTitleAndFilter()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    test::FakeWorkspace ws;
+    test::FakeDocument *doc = ws.addDocument(QStringLiteral("Untitled-1"),
+                                             QStringLiteral("<html><title>  My Page </TITLE>"));
+    // The document extension of [Editing] joins the web page masks; the other
+    // key of [Editing] stands in only when it is empty.
+    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"), QStringLiteral("php"));
+    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Default Extension"), QStringLiteral("asp"));
+    prompts.chooseNothing();
+    QVERIFY(!doc->SaveAs());
+    core::WriteSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"), QString());
+    prompts.chooseNothing();
+    QVERIFY(!doc->SaveAs());
+
+    QCOMPARE(prompts.fileRequests.size(), 2);
+    QCOMPARE(prompts.fileRequests[0].fileName, QStringLiteral("  My Page "));
+    QVERIFY(prompts.fileRequests[0].filter.startsWith(QStringLiteral("Web Pages (*.htm;*.html;*.shtml;*.ht3;*.pub;*.php)|")));
+    QVERIFY(!prompts.fileRequests[0].filter.contains(QStringLiteral("*.asp")));
+    QVERIFY(prompts.fileRequests[1].filter.startsWith(QStringLiteral("Web Pages (*.htm;*.html;*.shtml;*.ht3;*.pub;*.asp)|")));
 }
 
 QTEST_GUILESS_MAIN(tst_FileSave)

@@ -153,6 +153,16 @@ const std::vector<CommandInfo> &commandCatalogue()
         {S("ToolsUploadFiles"), S("&Upload Files..."), {}},
         {S("ToolsDownload"), S("&Download site via FTP..."), {}},
         {S("ToolsOptimizeDL"), S("Page Optimizer..."), {}},
+        {S("plug0"), S("Not Installed"), {}},
+        {S("plug1"), S("Plug-in 2"), {}},
+        {S("plug2"), S("Plug-in 3"), {}},
+        {S("plug3"), S("Plug-in 4"), {}},
+        {S("plug4"), S("Plug-in 5"), {}},
+        {S("plug5"), S("Plug-in 6"), {}},
+        {S("plug6"), S("Plug-in 7"), {}},
+        {S("plug7"), S("Plug-in 8"), {}},
+        {S("plug8"), S("Plug-in 9"), {}},
+        {S("plug9"), S("Plug-in 10"), {}},
         {S("ToolsDNS"), S("Domain Lookup..."), {}},
         {S("ToolsOptions"), S("&Options..."), {}},
         // Window
@@ -165,7 +175,10 @@ const std::vector<CommandInfo> &commandCatalogue()
         {S("HelpSearch"), S("&Search"), {}},
         {S("HelpHTML"), S("&HTML Reference"), {}},
         {S("HelpInternet"), S("&Internet Links"), {}},
+        {S("HelpLumenfold"), S("Lumenfold on the &Web"), {}},
         {S("HelpSupport"), S("&Customer Support"), {}},
+        {S("HelpLumenserve"), S("Lumenserve &Hosting"), {}},
+        {S("HelpCornucopia"), S("Web C&ornucopia"), {}},
         {S("HelpAbout"), S("&About Quillery..."), {}},
         // Tools of the toolbars that no menu entry has
         {S("EditBrowsers"), S("Edit Browser List..."), {}},
@@ -230,11 +243,13 @@ const std::vector<MenuLayout> &menuLayout()
          L({"ToolsCustomizeTB", "", "ToolsConvertToHTML", "ToolsFindDup", "ToolsSpellCheck", "ToolThes", "",
             ">ToolsPreview|P&review", "Preview0", "Preview1", "Preview2", "Preview3", "PreviewAll", "<",
             ">HostPanel|&Hosting Control Panel", "HostPanelOpen", "HostPanelSetup", "<", "ToolsFTPMan",
-            "ToolsUploadFiles", "ToolsDownload", "ToolsOptimizeDL", ">plugin|Plug-ins", "<", "ToolsDNS", "",
+            "ToolsUploadFiles", "ToolsDownload", "ToolsOptimizeDL", ">plugin|Plug-ins", "plug0", "plug1", "plug2",
+            "plug3", "plug4", "plug5", "plug6", "plug7", "plug8", "plug9", "<", "ToolsDNS", "",
             "ToolsOptions"})},
         {S("Window"), S("&Window"), L({"mnuWindow0", "mnuWindow1", "mnuWindow2", "", "mnuWindow4"})},
         {S("Help"), S("&Help"),
-         L({"HelpContents", "HelpSearch", "", "HelpHTML", "HelpInternet", "HelpSupport", "", "HelpAbout"})},
+         L({"HelpContents", "HelpSearch", "", "HelpHTML", "HelpInternet", "HelpLumenfold", "HelpSupport",
+            "HelpLumenserve", "HelpCornucopia", "", "HelpAbout"})},
     };
     return layout;
 }

@@ -1,8 +1,11 @@
 #include "core/ui/StatusPanels.h"
 
 #include "core/StatusText.h"
+#include "core/ui/KeyboardLocks.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QStatusBar>
@@ -29,6 +32,10 @@ StatusPanels::StatusPanels(QStatusBar *bar)
         // Shown at once, also during a busy loop.
         panel(QStringLiteral("Status"))->repaint();
     });
+    // The NUM panel follows the keyboard, whichever window has it.
+    qApp->installEventFilter(this);
+    if (const std::optional<bool> on = numLockNow())
+        setNumLock(*on);
     connect(m_clock, &QTimer::timeout, this, &StatusPanels::updateTime);
     m_clock->start(1000);
     updateTime();
@@ -81,6 +88,30 @@ void StatusPanels::setOverwrite(bool overwrite)
     panel(QStringLiteral("Ins"))->setText(overwrite ? QStringLiteral("OVR") : QStringLiteral("INS"));
 }
 
+void StatusPanels::setNumLock(bool on)
+{
+    QLabel *p = panel(QStringLiteral("Num"));
+    p->setText(on ? QStringLiteral("NUM") : QString());
+}
+
+std::optional<bool> numLockAfter(const QKeyEvent &event)
+{
+#if defined(Q_OS_WIN)
+    constexpr quint32 numLockMask = 0x200;   // as Qt's Windows key mapper reports it
+#elif defined(Q_OS_MACOS)
+    return std::nullopt;
+#else
+    constexpr quint32 numLockMask = 0x10;    // X11 and xkb: Mod2
+#endif
+#if !defined(Q_OS_MACOS)
+    bool on = event.nativeModifiers() & numLockMask;
+    // A key event carries the state before the key: Num Lock going down changes it.
+    if (event.key() == Qt::Key_NumLock && event.type() == QEvent::KeyPress)
+        on = !on;
+    return on;
+#endif
+}
+
 void StatusPanels::updateTime()
 {
     const QString text = QLocale().toString(QTime::currentTime(), QLocale::ShortFormat);
@@ -91,6 +122,11 @@ void StatusPanels::updateTime()
 
 bool StatusPanels::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
+        if (const std::optional<bool> on = numLockAfter(*static_cast<QKeyEvent *>(event)))
+            setNumLock(*on);
+        return false;
+    }
     if (event->type() == QEvent::MouseButtonRelease) {
         auto *label = qobject_cast<QLabel *>(watched);
         if (label && label->isEnabled())

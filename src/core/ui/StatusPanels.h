@@ -2,6 +2,9 @@
 
 #include <QObject>
 
+#include <optional>
+
+class QKeyEvent;
 class QLabel;
 class QStatusBar;
 class QTimer;
@@ -21,6 +24,7 @@ public:
     // Presses in the panel of the colouring mode in force: true for tag syntax.
     void showColoringMode(bool syntax);
     void setOverwrite(bool overwrite);
+    void setNumLock(bool on);
 
 signals:
     void panelClicked(const QString &key);
@@ -36,5 +40,9 @@ private:
     QList<QLabel *> m_panels;
     QTimer *m_clock;
 };
+
+// The Num Lock state a key event carries, after the key; none where the
+// platform does not tell.
+std::optional<bool> numLockAfter(const QKeyEvent &event);
 
 } // namespace qly::core::ui

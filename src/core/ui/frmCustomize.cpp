@@ -1,5 +1,6 @@
 #include "core/ui/frmCustomize.h"
 
+#include "core/ui/DialogFlags.h"
 #include "core/ui/Toolbars.h"
 
 #include <QComboBox>
@@ -12,7 +13,7 @@
 namespace qly::core::ui {
 
 frmCustomize::frmCustomize(Toolbars &toolbars, QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
     , m_toolbars(toolbars)
 {
     setObjectName(QStringLiteral("frmCustomize"));

@@ -1,6 +1,7 @@
 #include "core/ui/frmMe.h"
 
 #include "core/Globals.h"
+#include "core/ui/DialogFlags.h"
 
 #include <QMessageBox>
 
@@ -8,11 +9,14 @@ namespace qly::core::ui {
 
 void frmMe(QWidget *parent)
 {
-    QMessageBox::about(parent, QStringLiteral("About Quillery"),
-                       QStringLiteral("<h3>") + versionCaption()
-                           + QStringLiteral("</h3><p>An editor for people who write HTML by hand.</p>"
-                                            "<p>Built with Qt %1 and QScintilla.</p>")
-                                 .arg(QString::fromLatin1(qVersion())));
+    QMessageBox box(QMessageBox::Information, QStringLiteral("About Quillery"),
+                    QStringLiteral("<h3>") + versionCaption()
+                        + QStringLiteral("</h3><p>An editor for people who write HTML by hand.</p>"
+                                         "<p>Built with Qt %1 and QScintilla.</p>")
+                              .arg(QString::fromLatin1(qVersion())),
+                    QMessageBox::Ok, parent, kDialogFlags);
+    box.setTextFormat(Qt::RichText);
+    box.exec();
 }
 
 } // namespace qly::core::ui

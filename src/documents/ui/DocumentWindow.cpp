@@ -12,6 +12,8 @@
 #include "documents/ui/FileDrops.h"
 #include "documents/ui/ScoutPage.h"
 #include "documents/ui/ScintillaEdit.h"
+#include "documents/KeyCodes.h"
+#include "markup/CharacterCodes.h"
 #include "markup/CharacterCommands.h"
 #include "markup/Links.h"
 #include "markup/Selection.h"
@@ -27,7 +29,9 @@
 #include <QFile>
 #include <QComboBox>
 #include <QFileInfo>
+#include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -311,11 +315,47 @@ void DocumentWindow::cmdLinkTo_Click()
                          QStringLiteral("</A>"));
 }
 
+bool DocumentWindow::inputMethodCommit(QInputMethodEvent *event)
+{
+    const QString commit = event->commitString();
+    if (m_forwardingInput || commit.isEmpty())
+        return false;
+    markup::NoteKey();
+    if (!core::gTranslateWhileTyping)
+        return false;
+    // Characters composed with dead keys or an input method go through the
+    // typing hook one by one, as typed characters do.
+    const QList<uint> chars = commit.toUcs4();
+    markup::EnsureCharacterCodes();
+    const bool translates = std::any_of(chars.begin(), chars.end(), [](uint c) {
+        const char32_t cp = c;
+        const QString one = QString::fromUcs4(&cp, 1);
+        return c != 13 && markup::TranslateOneCharacter(one).compare(one, Qt::CaseInsensitive) != 0;
+    });
+    if (!translates)
+        return false;
+    // The control ends its composition first, without the committed text.
+    QInputMethodEvent ended;
+    m_forwardingInput = true;
+    QCoreApplication::sendEvent(m_edit->view(), &ended);
+    m_forwardingInput = false;
+    for (uint c : chars) {
+        int keyAscii = int(c);
+        markup::TranslateKey(keyAscii);
+        if (keyAscii != 0) {
+            const char32_t cp = c;
+            m_edit->setSelText(QString::fromUcs4(&cp, 1));
+        }
+    }
+    return true;
+}
+
 void DocumentWindow::onTabChanged(int tab)
 {
     const int old = m_lastTab;
     m_lastTab = tab;
-    if (core::gLoadingDocument && tab == old)
+    // The open sequence picks the tab it wants; what a switch does waits until it is over.
+    if (core::gLoadingDocument)
         return;
     if (old == 1 && m_browser)
         m_browser->stop();
@@ -374,14 +414,12 @@ bool DocumentWindow::eventFilter(QObject *watched, QEvent *event)
     }
     switch (event->type()) {
     case QEvent::KeyPress: {
-        // A typed character may go in as its entity instead.
+        // A typed character may go in as its entity instead; every key counts as activity.
         const QList<uint> typed = static_cast<QKeyEvent *>(event)->text().toUcs4();
-        if (core::gTranslateWhileTyping && typed.size() == 1) {
-            int keyAscii = int(typed.first());
-            markup::TranslateKey(keyAscii);
-            if (keyAscii == 0)
-                return true;
-        }
+        int keyAscii = typed.size() == 1 ? int(typed.first()) : 0;
+        markup::TranslateKey(keyAscii);
+        if (typed.size() == 1 && keyAscii == 0)
+            return true;
         break;
     }
     case QEvent::KeyRelease: {
@@ -389,11 +427,24 @@ bool DocumentWindow::eventFilter(QObject *watched, QEvent *event)
         const bool held = key->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
         if (key->key() != Qt::Key_Right && !held && m_edit->Dirty())
             bNeedsPreview = true;
+        if (runsKeyHookOnKeyUp()) {
+            // The hook sees the key's code as if it were a character.
+            int keyCode = windowsKeyCode(key->key(), key->modifiers() & Qt::KeypadModifier);
+            markup::TranslateKey(keyCode);
+        } else {
+            markup::NoteKey();
+        }
+        emit overwriteChanged(m_edit->view()->overwriteMode());
         updatePosition();
         break;
     }
+    case QEvent::InputMethod:
+        if (inputMethodCommit(static_cast<QInputMethodEvent *>(event)))
+            return true;
+        break;
     case QEvent::FocusIn:
         updatePosition();
+        emit overwriteChanged(m_edit->view()->overwriteMode());
         emit activated();
         break;
     case QEvent::MouseButtonPress: {

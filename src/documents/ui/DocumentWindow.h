@@ -12,6 +12,7 @@ class QPushButton;
 class QVBoxLayout;
 class QWebEngineView;
 class QMdiSubWindow;
+class QInputMethodEvent;
 
 namespace qly::documents::ui {
 
@@ -65,6 +66,8 @@ signals:
     // The right button alone, in the text: the main window's popup menu.
     void popupRequested(const QPoint &globalPos);
     void activated();
+    // The edit control's overwrite mode, after each key and when it gets the keyboard.
+    void overwriteChanged(bool overwrite);
 
 protected:
     // The key-up duty beyond marking the preview as stale.
@@ -81,6 +84,8 @@ private:
     void buildPreviewPage(QWidget *page);
     QWebEngineView *browser();
     void removeScoutFile();
+    // Committed text of a dead key or an input method; true when it was put in here.
+    bool inputMethodCommit(QInputMethodEvent *event);
 
     ScintillaEdit *m_edit = nullptr;
     QTabWidget *m_tabDoc = nullptr;
@@ -96,6 +101,7 @@ private:
     bool m_skipQuery = false;
     bool m_closing = false;
     bool m_altClick = false;
+    bool m_forwardingInput = false;
     int m_lastTab = 0;
 };
 

@@ -1,11 +1,12 @@
 #include "documents/ui/frmNewDoc.h"
 
-#include <QApplication>
+#include "core/ui/DialogFlags.h"
+#include "core/ui/Help.h"
+
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -14,7 +15,7 @@
 namespace qly::documents::ui {
 
 frmNewDoc::frmNewDoc(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
     , m_kinds(new QButtonGroup(this))
 {
     setObjectName(QStringLiteral("frmNewDoc"));
@@ -52,13 +53,9 @@ frmNewDoc::frmNewDoc(QWidget *parent)
     ok->setObjectName(QStringLiteral("OK"));
     ok->setDefault(true);
     buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("Cancel"));
-    QPushButton *help = buttons->addButton(QStringLiteral("Help"), QDialogButtonBox::HelpRole);
-    help->setObjectName(QStringLiteral("Command1"));
+    core::ui::addHelpButton(buttons, this, QStringLiteral("Command1"));
     connect(buttons, &QDialogButtonBox::accepted, this, &frmNewDoc::OK_Click);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
-        QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
-    });
     layout->addWidget(buttons);
 
     m_kinds->button(NewDocModel::Normal)->setChecked(true);

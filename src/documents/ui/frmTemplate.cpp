@@ -1,16 +1,17 @@
 #include "documents/ui/frmTemplate.h"
 
-#include <QApplication>
+#include "core/ui/DialogFlags.h"
+#include "core/ui/Help.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
 namespace qly::documents::ui {
 
 frmTemplate::frmTemplate(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
     , m_txtName(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("frmTemplate"));
@@ -25,7 +26,7 @@ frmTemplate::frmTemplate(QWidget *parent)
     ok->setDefault(true);
     ok->setEnabled(false);
     buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdCancel"));
-    buttons->addButton(QStringLiteral("Help"), QDialogButtonBox::HelpRole)->setObjectName(QStringLiteral("cmdHelp"));
+    core::ui::addHelpButton(buttons, this, QStringLiteral("cmdHelp"));
     layout->addRow(buttons);
 
     connect(m_txtName, &QLineEdit::textChanged, ok, [ok](const QString &text) { ok->setEnabled(!text.trimmed().isEmpty()); });
@@ -36,9 +37,6 @@ frmTemplate::frmTemplate(QWidget *parent)
     connect(buttons, &QDialogButtonBox::rejected, this, [this] {
         m_tag = QStringLiteral("0");
         reject();
-    });
-    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
-        QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
     });
 }
 

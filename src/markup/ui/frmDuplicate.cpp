@@ -1,5 +1,7 @@
 #include "markup/ui/frmDuplicate.h"
 
+#include "core/ui/DialogFlags.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,7 +11,7 @@
 namespace qly::markup::ui {
 
 frmDuplicate::frmDuplicate(const QString &link, QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
 {
     setObjectName(QStringLiteral("frmDuplicate"));
     setWindowTitle(tr("Duplicate Link"));

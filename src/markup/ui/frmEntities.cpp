@@ -75,7 +75,8 @@ frmEntities *frmEntities::showList(QWidget *owner, QAction *check)
 }
 
 frmEntities::frmEntities(QWidget *owner)
-    : QWidget(owner, Qt::Tool | Qt::WindowStaysOnTopHint)
+    : QWidget(owner, Qt::Tool | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+                         | Qt::WindowCloseButtonHint)
 {
     setObjectName(QStringLiteral("frmEntities"));
     setWindowTitle(tr("Special Characters"));

@@ -1,5 +1,7 @@
 #include "platform/ui/QtPrompts.h"
 
+#include "core/ui/DialogFlags.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -88,7 +90,7 @@ private:
 Answer QtPrompts::message(const QString &title, const QString &text, Buttons buttons, Icon icon)
 {
     CursorPause pause(m_busy);
-    QMessageBox box(toIcon(icon), title, text, QMessageBox::NoButton, m_parent);
+    QMessageBox box(toIcon(icon), title, text, QMessageBox::NoButton, m_parent, core::ui::kDialogFlags);
     switch (buttons) {
     case Buttons::Ok: box.setStandardButtons(QMessageBox::Ok); break;
     case Buttons::OkCancel: box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;

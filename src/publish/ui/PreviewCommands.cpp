@@ -9,7 +9,9 @@
 #include "platform/Prompts.h"
 #include "publish/FindBrowsers.h"
 #include "publish/Preview.h"
+#include "publish/WebAddresses.h"
 #include "publish/ui/frmBrowser.h"
+#include "publish/ui/frmHostPanel.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -76,6 +78,15 @@ void registerPublishCommands(core::ui::Shell &shell)
         else
             OpenInDefaultBrowser(address);
     });
+
+    t.bind(QStringLiteral("HostPanelSetup"), [w] {
+        frmHostPanel dialog(w);
+        dialog.exec();
+    });
+    // The product site's pages and the domain look-up open in the browser.
+    for (const QString &name : webAddressCommands())
+        t.bind(name, [name] { OpenInDefaultBrowser(webAddress(name)); });
+    t.bind(QStringLiteral("HelpCornucopia"), [] { OpenInDefaultBrowser(BrowserUrl(cornucopiaPage())); });
 
     // The hooks outlive a main window; they rebuild the menu of one that is still there.
     const QPointer<core::ui::CommandTable> table(&t);

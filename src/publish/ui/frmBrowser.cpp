@@ -1,10 +1,11 @@
 #include "publish/ui/frmBrowser.h"
 
-#include <QApplication>
+#include "core/ui/DialogFlags.h"
+#include "core/ui/Help.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -12,7 +13,7 @@
 namespace qly::publish::ui {
 
 frmBrowser::frmBrowser(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, core::ui::kDialogFlags)
 {
     setObjectName(QStringLiteral("frmBrowser"));
     setWindowTitle(QStringLiteral("Choose Browser"));
@@ -49,7 +50,7 @@ frmBrowser::frmBrowser(QWidget *parent)
     ok->setObjectName(QStringLiteral("cmdOptions(0)"));
     ok->setDefault(true);
     buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdOptions(1)"));
-    buttons->addButton(QStringLiteral("Help"), QDialogButtonBox::HelpRole)->setObjectName(QStringLiteral("cmdOptions(2)"));
+    core::ui::addHelpButton(buttons, this, QStringLiteral("cmdOptions(2)"));
     layout->addWidget(buttons);
 
     connect(add, &QPushButton::clicked, this, [this] { showRows(m_model.btnAdd_Click()); });
@@ -80,12 +81,6 @@ void frmBrowser::showRows(int select)
 
 void frmBrowser::cmdOptions_Click(int index)
 {
-    if (index == 2) {
-        // The help key goes to the window behind, which outlives the dialog.
-        QWidget *target = parentWidget() ? parentWidget() : this;
-        QApplication::postEvent(target, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
-        QApplication::postEvent(target, new QKeyEvent(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier));
-    }
     m_tag = index == 0 ? QStringLiteral("1") : QStringLiteral("0");
     if (index == 0)
         accept();

@@ -40,7 +40,7 @@ void tst_AliasEditor::editsAndWritesTheFileFormat()
     QVERIFY(editor.save());
 
     QCOMPARE(env.read(QStringLiteral("aliases.inf")),
-             QByteArray("sig\x02line1NL_line2\x02Yes\x02No\r\nw\x02" "aNL_b\x02No\x02Yes\r\n# a note\r\n"));
+             QByteArray("sig\x02line1NL_line2\x02yes\x02no\r\n# a note\r\nw\x02" "aNL_b\x02No\x02Yes\r\n"));
     QVERIFY(publish::LoadAliases());
     QCOMPARE(publish::Aliases().size(), size_t(2));
     QCOMPARE(publish::Aliases()[1].replacement, QStringLiteral("a\r\nb"));
