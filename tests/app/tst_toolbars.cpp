@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
+#include "core/StatusText.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "app/MainWindow.h"
@@ -18,6 +19,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
@@ -25,6 +27,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QToolButton>
 #include <QtTest>
 
 using namespace qly;
@@ -39,6 +42,7 @@ private slots:
     void everyLaidOutNameIsACommand();
     void viewEntriesFollowAndStoreTheBands();
     void customisedLayoutSurvivesARestart();
+    void customizeShowsCaptionsAndPictures();
     void colouringPanelsWriteAndRecolour();
     void resourceManagerFollowsItsKeys();
     void popupAndDateTimeReachTheDocument();
@@ -120,7 +124,8 @@ void tst_Toolbars::viewEntriesFollowAndStoreTheBands()
 
 void tst_Toolbars::customisedLayoutSurvivesARestart()
 {
-    const QString file = core::JoinPath(core::ProgramDirectory(), QStringLiteral("Quillery.tb"));
+    const QString file = core::JoinPath(core::UserConfigDirectory(), QStringLiteral("Quillery.tb"));
+    const QString shipped = core::JoinPath(core::ProgramDirectory(), QStringLiteral("Quillery.tb"));
     m_main->LoadToolbars();   // no file: the design layout
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")),
              m_main->toolbars().allTools(QStringLiteral("Properties")));
@@ -141,7 +146,8 @@ void tst_Toolbars::customisedLayoutSurvivesARestart()
     m_main->toolbars().band(QStringLiteral("Text Property"))->hide();
 
     m_main->SaveMainWindowState();
-    QVERIFY(QFile::exists(file));
+    QVERIFY(QFile::exists(file));   // the user's own, not the program's
+    QVERIFY(!QFile::exists(shipped));
     m_main.reset();
     newMain();
     m_main->LoadToolbars();
@@ -149,12 +155,59 @@ void tst_Toolbars::customisedLayoutSurvivesARestart()
     QVERIFY(!m_main->toolbars().band(QStringLiteral("Text Property"))->isVisibleTo(m_main.get()));
     QVERIFY(!m_main->commands().action(QStringLiteral("ViewTB1"))->isChecked());
 
+    // A user without a layout gets the program directory's copy.
+    QVERIFY(QFile::rename(file, shipped));
+    newMain();
+    m_main->LoadToolbars();
+    QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")), shown);
+    QVERIFY(QFile::copy(shipped, file));
+
     // A damaged file leaves the design layout.
     QFile::resize(file, 10);
     newMain();
     m_main->LoadToolbars();
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")),
              m_main->toolbars().allTools(QStringLiteral("Properties")));
+
+    // A layout that cannot be written is told in the status bar.
+    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir(core::UserConfigDirectory()).removeRecursively());
+    m_env->write(QStringLiteral("config/quillery"), "a file where the folder should be");
+    QVERIFY(!m_main->SaveToolbars());
+    QVERIFY2(core::StatusText::instance().text().startsWith(QStringLiteral("The toolbar layout could not be saved")),
+             qPrintable(core::StatusText::instance().text()));
+}
+
+void tst_Toolbars::customizeShowsCaptionsAndPictures()
+{
+    core::ui::frmCustomize dialog(m_main->toolbars());
+    auto *band = dialog.findChild<QComboBox *>(QStringLiteral("cmbBand"));
+    auto *tools = dialog.findChild<QListWidget *>(QStringLiteral("lstTools"));
+    band->setCurrentText(QStringLiteral("File"));
+    QStringList captions;
+    for (int i = 0; i < tools->count(); ++i) {
+        captions << tools->item(i)->text();
+        QVERIFY(!tools->item(i)->icon().isNull());
+    }
+    QCOMPARE(captions.first(), QStringLiteral("New"));
+    QVERIFY(captions.contains(QStringLiteral("Preview in All")));
+    QVERIFY(captions.contains(QStringLiteral("Edit Browser List...")));
+    QVERIFY(!captions.contains(QStringLiteral("tlbNew")));
+    // Hiding a tool by its caption still stores the tool's name.
+    tools->item(0)->setCheckState(Qt::Unchecked);
+    dialog.apply();
+    QVERIFY(!m_main->toolbars().shownTools(QStringLiteral("File")).contains(QStringLiteral("tlbNew")));
+    QVERIFY(m_main->toolbars().shownTools(QStringLiteral("File")).contains(QStringLiteral("tlbOpen")));
+
+    // The preview tool carries the browser menu on its arrow.
+    QToolBar *file = m_main->toolbars().band(QStringLiteral("File"));
+    auto *preview = qobject_cast<QToolButton *>(
+        file->widgetForAction(m_main->commands().action(core::ui::toolCommand(QStringLiteral("tlbPreview")))));
+    QVERIFY(preview);
+    QCOMPARE(preview->popupMode(), QToolButton::MenuButtonPopup);
+    QVERIFY(preview->menu()->actions().contains(m_main->commands().action(QStringLiteral("Preview0"))));
+    QVERIFY(preview->menu()->actions().contains(m_main->commands().action(QStringLiteral("PreviewAll"))));
+    QVERIFY(preview->menu()->actions().contains(m_main->commands().action(QStringLiteral("EditBrowsers"))));
 }
 
 void tst_Toolbars::colouringPanelsWriteAndRecolour()

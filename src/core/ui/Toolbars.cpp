@@ -8,8 +8,11 @@
 #include <QComboBox>
 #include <QDataStream>
 #include <QIODevice>
+#include <QIcon>
 #include <QMainWindow>
+#include <QMenu>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace qly::core::ui {
 
@@ -90,7 +93,53 @@ void Toolbars::addTool(QToolBar *bar, const QString &tool)
         if (a->icon().isNull())
             a->setIcon(toolIcon(tool));
         bar->addAction(a);
+        // The preview tool carries the browser menu on its arrow.
+        if (tool == QLatin1String("tlbPreview")) {
+            if (auto *button = qobject_cast<QToolButton *>(bar->widgetForAction(a))) {
+                button->setMenu(previewMenu());
+                button->setPopupMode(QToolButton::MenuButtonPopup);
+            }
+        }
     }
+}
+
+QMenu *Toolbars::previewMenu()
+{
+    if (m_previewMenu)
+        return m_previewMenu;
+    m_previewMenu = new QMenu(&m_window);
+    m_previewMenu->setObjectName(QStringLiteral("mnuPreviewTool"));
+    for (const char *name : {"Preview0", "Preview1", "Preview2", "Preview3", "PreviewAll", "", "EditBrowsers"}) {
+        if (!*name)
+            m_previewMenu->addSeparator();
+        else if (QAction *a = m_commands.action(QString::fromLatin1(name)))
+            m_previewMenu->addAction(a);
+    }
+    return m_previewMenu;
+}
+
+QString Toolbars::toolCaption(const QString &tool) const
+{
+    if (tool == QLatin1String("cmbApplyStyle"))
+        return tr("Apply Style");
+    const QAction *a = m_commands.action(toolCommand(tool));
+    if (!a)
+        return tool;
+    // "&" marks the mnemonic; "&&" stands for one "&".
+    const QString text = a->text();
+    QString caption;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'&' && i + 1 < text.size())
+            ++i;
+        caption += text[i];
+    }
+    return caption;
+}
+
+QIcon Toolbars::toolPicture(const QString &tool) const
+{
+    const QAction *a = m_commands.action(toolCommand(tool));
+    return a && !a->icon().isNull() ? a->icon() : toolIcon(tool);
 }
 
 void Toolbars::fill(const QString &band)

@@ -67,7 +67,8 @@ void frmCustomize::showBand(const QString &band)
             order << tool;
     }
     for (const QString &tool : order) {
-        auto *item = new QListWidgetItem(toolIcon(tool), tool, m_tools);
+        auto *item = new QListWidgetItem(m_toolbars.toolPicture(tool), m_toolbars.toolCaption(tool), m_tools);
+        item->setData(Qt::UserRole, tool);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(shown.contains(tool) ? Qt::Checked : Qt::Unchecked);
     }
@@ -80,7 +81,7 @@ void frmCustomize::keepBand()
     QStringList shown;
     for (int i = 0; i < m_tools->count(); ++i) {
         if (m_tools->item(i)->checkState() == Qt::Checked)
-            shown << m_tools->item(i)->text();
+            shown << m_tools->item(i)->data(Qt::UserRole).toString();
     }
     m_choice.insert(m_current, shown);
 }
