@@ -153,6 +153,13 @@ void tst_Toolbars::customisedLayoutSurvivesARestart()
     m_main->LoadToolbars();
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")), shown);
     QVERIFY(!m_main->toolbars().band(QStringLiteral("Text Property"))->isVisibleTo(m_main.get()));
+    // Bands filled anew keep the style box.
+    QComboBox *style = m_main->toolbars().styleCombo();
+    QCOMPARE(m_main->findChild<QComboBox *>(QStringLiteral("cmbApplyStyle")), style);
+    QCOMPARE(style->parentWidget(), m_main->toolbars().band(QStringLiteral("Style")));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_main->findChild<QComboBox *>(QStringLiteral("cmbApplyStyle")));
+    QVERIFY(style->isVisibleTo(m_main->toolbars().band(QStringLiteral("Style"))));
     QVERIFY(!m_main->commands().action(QStringLiteral("ViewTB1"))->isChecked());
 
     // A user without a layout gets the program directory's copy.

@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWidgetAction>
 
 namespace qly::core::ui {
 
@@ -42,6 +43,10 @@ Toolbars::Toolbars(QMainWindow &window, CommandTable &commands)
     m_cmbApplyStyle->setToolTip(tr("Apply a style class (comes with style sheets)"));
     m_cmbApplyStyle->setEnabled(false);
     m_cmbApplyStyle->setMinimumContentsLength(12);
+    // The band holds the box through an action of ours: a band that is
+    // filled anew gives the box back instead of deleting it.
+    m_styleAction = new QWidgetAction(this);
+    m_styleAction->setDefaultWidget(m_cmbApplyStyle);
 
     for (const BandLayout &layout : toolbarLayout()) {
         // Three rows by design: file tools; text and insert; format, style and browser.
@@ -86,7 +91,7 @@ QStringList Toolbars::allTools(const QString &band) const
 void Toolbars::addTool(QToolBar *bar, const QString &tool)
 {
     if (tool == QLatin1String("cmbApplyStyle")) {
-        bar->addWidget(m_cmbApplyStyle);
+        bar->addAction(m_styleAction);
         return;
     }
     if (QAction *a = m_commands.action(toolCommand(tool))) {

@@ -9,6 +9,7 @@ class QIcon;
 class QMainWindow;
 class QMenu;
 class QToolBar;
+class QWidgetAction;
 
 namespace qly::core::ui {
 
@@ -55,6 +56,7 @@ private:
     QHash<QString, QStringList> m_shown;
     QStringList m_order;
     QComboBox *m_cmbApplyStyle = nullptr;
+    QWidgetAction *m_styleAction = nullptr;
     QMenu *m_previewMenu = nullptr;
 };
 
