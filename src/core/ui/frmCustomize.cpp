@@ -53,6 +53,8 @@ frmCustomize::frmCustomize(Toolbars &toolbars, QWidget *parent)
         m_choice.insert(band, toolbars.shownTools(band));
     connect(m_band, &QComboBox::currentTextChanged, this, &frmCustomize::showBand);
     showBand(m_band->currentText());
+    // Room for a band's tools without scrolling at once.
+    resize(sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 50, fontMetrics().height() * 26)));
 }
 
 void frmCustomize::showBand(const QString &band)

@@ -15,6 +15,7 @@
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QPointer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -169,8 +170,11 @@ void frmEntities::placeBesidePage()
     // shown, the window's frame counts too.
     documents::Document *doc = documents::Workspace::CurrentDocument();
     auto *anchor = dynamic_cast<QWidget *>(doc);
-    if (!anchor || !anchor->isVisible())
-        anchor = parentWidget();
+    if (!anchor || !anchor->isVisible()) {
+        // No page yet: the workspace under the main window's bars.
+        auto *main = qobject_cast<QMainWindow *>(parentWidget());
+        anchor = main && main->centralWidget() ? main->centralWidget() : parentWidget();
+    }
     if (!anchor || !anchor->isVisible())
         return;
     const QSize frame = isVisible() ? frameGeometry().size() : size();
