@@ -196,10 +196,8 @@ void tst_Toolbars::customizeShowsCaptionsAndPictures()
         captions << tools->item(i)->text();
         QVERIFY(!tools->item(i)->icon().isNull());
     }
-    QCOMPARE(captions.first(), QStringLiteral("New"));
-    QVERIFY(captions.contains(QStringLiteral("Preview in All")));
+    QCOMPARE(captions.mid(0, 2), (QStringList{QStringLiteral("New"), QStringLiteral("Open...")}));
     QVERIFY(captions.contains(QStringLiteral("Edit Browser List...")));
-    QVERIFY(!captions.contains(QStringLiteral("tlbNew")));
     // Hiding a tool by its caption still stores the tool's name.
     tools->item(0)->setCheckState(Qt::Unchecked);
     dialog.apply();

@@ -75,13 +75,7 @@ void tst_WindowPlacement::cleanup()
 QString tst_WindowPlacement::sessionEntry(const QString &path, int state, const QRect &pixels) const
 {
     const QRect t = core::ui::toTwips(pixels, m_main.get());
-    return QStringLiteral("%1,%2,%3,%4,%5,%6,0")
-        .arg(path)
-        .arg(state)
-        .arg(t.width())
-        .arg(t.height())
-        .arg(t.left())
-        .arg(t.top());
+    return QStringLiteral("%1,%2,%3,%4,%5,%6,0").arg(path).arg(state).arg(t.width()).arg(t.height()).arg(t.left()).arg(t.top());
 }
 
 void tst_WindowPlacement::startupBoxClosesTheSplash()
@@ -109,11 +103,7 @@ void tst_WindowPlacement::newAndRestoredWindowsStayInsideTheWorkspace()
         core::gLoadingDocument = false;
     }
     for (QMdiSubWindow *sub : windows())
-        QVERIFY2(area().contains(sub->geometry()), qPrintable(QStringLiteral("%1,%2 %3x%4")
-                                                                  .arg(sub->x())
-                                                                  .arg(sub->y())
-                                                                  .arg(sub->width())
-                                                                  .arg(sub->height())));
+        QVERIFY(area().contains(sub->geometry()));
     for (documents::Document *d : m_main->documentList())
         m_main->unloadDocument(d);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -160,7 +150,7 @@ void tst_WindowPlacement::specialCharactersOpenBesideThePageAndGiveBackTheKeyboa
     const QRect menuBar(m_main->menuBar()->mapToGlobal(QPoint(0, 0)), m_main->menuBar()->size());
     const QRect page_(doc->mapToGlobal(QPoint(0, 0)), doc->size());
     const QRect placed = list->frameGeometry();
-    QVERIFY2(!placed.intersects(menuBar), qPrintable(QStringLiteral("%1,%2").arg(placed.x()).arg(placed.y())));
+    QVERIFY(!placed.intersects(menuBar));
     QVERIFY(placed.top() >= page_.top());
     QVERIFY(list->screen()->availableGeometry().contains(list->geometry()));
 
