@@ -285,8 +285,8 @@ void DocumentWindow::runBrowserCommand(BrowserCommand command)
     // Before the first preview there is nothing to go back to or stop.
     if (!m_browser)
         return;
-    // The copy of the page is gone once shown: it is written anew.
-    if (command == BrowserCommand::Refresh && m_browser->url() == m_scoutUrl) {
+    // The copy of the page is gone once shown: a refresh writes it anew.
+    if (command == BrowserCommand::Refresh && m_browser->url() == m_scoutUrl && m_scoutFile.isEmpty()) {
         ShowMyScout(true);
         return;
     }

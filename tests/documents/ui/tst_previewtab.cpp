@@ -129,6 +129,16 @@ void tst_PreviewTab::relativeImageAndLinkTo()
     QVERIFY(!again.isEmpty());
     QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(again), 15000);
     QVERIFY(QDir(env.path(QStringLiteral("site"))).entryList({QStringLiteral("~q*")}, QDir::Files).isEmpty());
+    // Back from another page still shows the edited page (the browser keeps it).
+    const QString other = env.write(QStringLiteral("site/other.html"), "<P>Other page</P>");
+    view->setUrl(QUrl::fromLocalFile(other));
+    QTRY_VERIFY_WITH_TIMEOUT(view->url() == QUrl::fromLocalFile(other) && !view->page()->isLoading(), 15000);
+    auto latest = std::make_shared<QString>();
+    QVERIFY(m_main->commands().run(QStringLiteral("tlbBack")));
+    QTRY_VERIFY_WITH_TIMEOUT(([&] {
+        view->page()->toPlainText([latest](const QString &t) { *latest = t; });
+        return latest->contains(QStringLiteral("Edited heading"));
+    }()), 15000);
 
     // The picture is on the screen: its red stands in the grabbed view.
     QImage shot;
