@@ -11,6 +11,7 @@
 #include "core/Startup.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
+#include "core/ui/Placement.h"
 #include "core/ui/StatusPanels.h"
 #include "core/ui/Toolbars.h"
 #include "core/ui/Twips.h"
@@ -25,6 +26,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -126,10 +128,17 @@ documents::Document *frmMain::makeDocumentWindow(bool explorerInternal)
                                            : static_cast<DocumentWindow *>(new documents::ui::frmDocSax);
     QMdiSubWindow *sub = m_mdi->addSubWindow(doc);
     sub->setAttribute(Qt::WA_DeleteOnClose);
-    // A new window takes most of the area; stored geometry, when there is some, comes later.
-    const QSize area = m_mdi->viewport()->size();
-    sub->resize(std::max(400, area.width() * 3 / 4), std::max(300, area.height() * 3 / 4));
+    // A new window takes most of the area, cascaded from the last one and
+    // wholly inside the area, its title bar buttons in reach; stored
+    // geometry, when there is some, comes later.
+    const QRect area = m_mdi->viewport()->rect();
+    const QSize size(std::max(400, area.width() * 3 / 4), std::max(300, area.height() * 3 / 4));
+    sub->resize(size.expandedTo(sub->minimumSizeHint()));
+    // Placed now, the window comes back here when a maximised one is restored.
+    sub->setGeometry(core::ui::keepInside(sub->geometry(), area));
     sub->show();
+    if (!sub->isMaximized())
+        sub->setGeometry(core::ui::keepInside(sub->geometry(), area));
     m_mdi->setActiveSubWindow(sub);
     QList<QKeySequence> keys;
     for (const QString &name : m_commands->names())
@@ -162,6 +171,11 @@ void frmMain::onSubWindowActivated(QMdiSubWindow *sub)
 
 void frmMain::bringToFront()
 {
+    // Windows restored while the area was still being laid out leave
+    // nothing of their earlier places behind.
+    for (QMdiSubWindow *sub : m_mdi->subWindowList())
+        sub->update();
+    m_mdi->viewport()->update();
     if (isMinimized())
         setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
@@ -214,17 +228,34 @@ void frmMain::InitMainWindow()
 
 QString frmMain::toolbarFile() const
 {
-    return JoinPath(ProgramDirectory(), QStringLiteral("Quillery.tb"));
+    return JoinPath(UserConfigDirectory(), QStringLiteral("Quillery.tb"));
 }
 
 void frmMain::LoadToolbars()
 {
+    // The user's own layout; without one, the program directory's copy is
+    // the default that an installation may ship.
+    QString file = toolbarFile();
+    if (!QFile::exists(file))
+        file = JoinPath(ProgramDirectory(), QStringLiteral("Quillery.tb"));
     QByteArray layout;
-    if (QFile::exists(toolbarFile()) && readWholeFile(toolbarFile(), layout).ok()) {
+    if (QFile::exists(file) && readWholeFile(file, layout).ok()) {
         if (!m_toolbars->loadLayout(layout))
-            StepFailed(QStringLiteral("The toolbar layout in ") + toolbarFile() + QStringLiteral(" was not read"));
+            StepFailed(QStringLiteral("The toolbar layout in ") + file + QStringLiteral(" was not read"));
     }
     m_toolbars->updateViewChecks();
+}
+
+bool frmMain::SaveToolbars()
+{
+    QDir().mkpath(UserConfigDirectory());
+    const IoResult saved = writeFileAtomically(toolbarFile(), m_toolbars->saveLayout());
+    if (saved.ok())
+        return true;
+    StepFailed(QStringLiteral("Could not save the toolbar layout: ") + saved.message);
+    ShowStatus(QStringLiteral("The toolbar layout could not be saved in ") + toolbarFile() + QStringLiteral(": ")
+               + saved.message);
+    return false;
 }
 
 void frmMain::DrawMainScreen()
@@ -295,7 +326,9 @@ QMenu *frmMain::createPopupMenu()
 void frmMain::showCustomize()
 {
     frmCustomize dialog(*m_toolbars, this);
-    dialog.exec();
+    // A layout the user just made is kept at once, not only at exit.
+    if (dialog.exec() == QDialog::Accepted)
+        SaveToolbars();
 }
 
 void frmMain::SaveMainWindowState()
@@ -303,9 +336,7 @@ void frmMain::SaveMainWindowState()
     const bool normal = !(isMaximized() || isMinimized() || isFullScreen());
     WriteMainGeometry(normal, QRect(toTwips(pos().x(), this), toTwips(pos().y(), this),
                                     toTwips(width(), this), toTwips(height(), this)));
-    const IoResult saved = writeFileAtomically(toolbarFile(), m_toolbars->saveLayout());
-    if (!saved.ok())
-        StepFailed(QStringLiteral("Could not save the toolbar layout: ") + saved.message);
+    SaveToolbars();
 }
 
 void frmMain::UnloadAllForms()

@@ -57,8 +57,12 @@ public:
 
     // Restores the stored geometry; the rest of the window's own start.
     void InitMainWindow();
-    // Restores the toolbar layout from "Quillery.tb" in the program directory.
+    // Restores the toolbar layout from "Quillery.tb" in the user's
+    // configuration directory, or else the program directory's copy.
     void LoadToolbars();
+    // Writes the layout to the user's "Quillery.tb"; a failure is told in
+    // the status bar.
+    bool SaveToolbars();
     // Stores geometry and layout at exit.
     void SaveMainWindowState();
     // Closes every document without asking and ends the event loop.

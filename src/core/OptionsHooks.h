@@ -11,8 +11,9 @@ struct OptionsHooks {
     std::function<void()> applyToDocuments;
     // The preview menu entries are rebuilt from [Browsers].
     std::function<void()> loadBrowserMenu;
-    // Browsers are looked for on this machine and written to [Browsers].
-    std::function<void()> findBrowsers;
+    // Browsers are looked for on this machine and written to [Browsers];
+    // gives how many were found.
+    std::function<int()> findBrowsers;
 };
 OptionsHooks &optionsHooks();
 

@@ -166,7 +166,7 @@ void OptionsModel::browseLocation(int index)
     if (index == kBrowserLocation) {
         platform::FileRequest r;
         r.title = versionCaption() + QStringLiteral(" - Choose Browser");
-        r.filter = QStringLiteral("Program (*.exe)|*.exe|All(*.*)|*.*");
+        r.filter = ProgramFileFilter();
         r.directory = box.isEmpty() ? GetFileLocation(QStringLiteral("Documents")) : DirectoryOf(box);
         const platform::FileAnswer a = platform::prompts().openFile(r);
         if (a.accepted())
@@ -196,7 +196,7 @@ void OptionsModel::addBrowser()
 {
     platform::FileRequest r;
     r.title = versionCaption() + QStringLiteral(" - Choose Browser");
-    r.filter = QStringLiteral("Program Files  (*.exe)|*.exe|All Files (*.*)|*.*");
+    r.filter = ProgramFileFilter();
     r.directory = GetFileLocation(QStringLiteral("Documents"));
     const platform::FileAnswer a = platform::prompts().openFile(r);
     if (!a.accepted())
@@ -231,8 +231,13 @@ void OptionsModel::findBrowsers()
 {
     if (!optionsHooks().findBrowsers)
         return;
-    optionsHooks().findBrowsers();
+    const int found = optionsHooks().findBrowsers();
     loadBrowsers();
+    if (found == 0
+        && platform::MsgBox(QStringLiteral("No web browser was found on this computer. Would you like to choose "
+                                           "the program of a browser yourself?"),
+                            platform::Buttons::YesNo, platform::Icon::Question) == platform::Answer::Yes)
+        addBrowser();
     if (locations[kBrowserLocation].isEmpty())
         locations[kBrowserLocation] = ReadSetting(kFileLocations, QStringLiteral("Browser"));
 }

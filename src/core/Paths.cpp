@@ -125,4 +125,13 @@ int SplitList(const QString &text, const QString &delimiter, QStringList &out)
     return int(out.size());
 }
 
+QString ProgramFileFilter()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("Program Files  (*.exe)|*.exe|All Files (*.*)|*.*");
+#else
+    return QStringLiteral("All Files (*.*)|*.*");
+#endif
+}
+
 } // namespace qly::core

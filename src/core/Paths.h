@@ -16,6 +16,10 @@ QString locateProgramDirectory();
 // The user's configuration directory: $XDG_CONFIG_HOME/quillery.
 QString UserConfigDirectory();
 
+// The file dialog filter for choosing a program (a browser): programs
+// carry ".exe" only on Windows; elsewhere every file is offered.
+QString ProgramFileFilter();
+
 // Joins a directory and a name with one separator; an empty directory gives
 // the name alone, which then stands for the current directory.
 QString JoinPath(const QString &dir, const QString &name);

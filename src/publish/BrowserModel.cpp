@@ -2,6 +2,7 @@
 
 #include "core/Globals.h"
 #include "core/OptionsHooks.h"
+#include "core/Paths.h"
 #include "core/Settings.h"
 #include "platform/Prompts.h"
 #include "publish/Preview.h"
@@ -50,7 +51,7 @@ int BrowserModel::btnAdd_Click()
 {
     platform::FileRequest request;
     request.title = versionCaption() + QStringLiteral(" - Choose Browser");
-    request.filter = QStringLiteral("Program Files  (*.exe)|*.exe|All Files (*.*)|*.*");
+    request.filter = ProgramFileFilter();
     request.directory = GetFileLocation(QStringLiteral("Documents"));
     const platform::FileAnswer answer = platform::prompts().openFile(request);
     if (!answer.accepted())

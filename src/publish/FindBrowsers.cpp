@@ -166,7 +166,7 @@ QStringList DiscoverBrowsers()
     return found;
 }
 
-void FindBrowsers()
+int FindBrowsers()
 {
     ShowStatus(QStringLiteral("Finding WWW Browsers"));
     const QStringList found = DiscoverBrowsers();
@@ -195,6 +195,7 @@ void FindBrowsers()
             WriteSetting(QStringLiteral("File Locations"), key, chosen);
     }
     ShowStatus(QString());
+    return int(found.size());
 }
 
 std::vector<BrowserEntry> BrowserMenuEntries()

@@ -10,8 +10,9 @@ namespace qly::publish {
 // the desktop's default browser (xdg-settings), and the usual browser
 // programs on PATH. New ones are added to [Browsers] behind those listed
 // already; with [File Locations] "Browser" empty, the first found becomes
-// the default. Shows "Finding WWW Browsers" meanwhile.
-void FindBrowsers();
+// the default. Shows "Finding WWW Browsers" meanwhile. Gives how many
+// browsers were found, listed before or not.
+int FindBrowsers();
 
 // The browsers found, in the order above, each once (by the file it
 // resolves to). Paths are as found, not resolved through links.

@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
+#include "core/StatusText.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "app/MainWindow.h"
@@ -18,6 +19,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QIcon>
 #include <QLabel>
@@ -27,6 +29,7 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <QToolBar>
+#include <QToolButton>
 #include <QtTest>
 
 using namespace qly;
@@ -42,6 +45,7 @@ private slots:
     void everyToolShowsItsOwnPictureAndTip();
     void viewEntriesFollowAndStoreTheBands();
     void customisedLayoutSurvivesARestart();
+    void customizeShowsCaptionsAndPictures();
     void colouringPanelsWriteAndRecolour();
     void resourceManagerFollowsItsKeys();
     void popupAndDateTimeReachTheDocument();
@@ -172,7 +176,8 @@ void tst_Toolbars::viewEntriesFollowAndStoreTheBands()
 
 void tst_Toolbars::customisedLayoutSurvivesARestart()
 {
-    const QString file = core::JoinPath(core::ProgramDirectory(), QStringLiteral("Quillery.tb"));
+    const QString file = core::JoinPath(core::UserConfigDirectory(), QStringLiteral("Quillery.tb"));
+    const QString shipped = core::JoinPath(core::ProgramDirectory(), QStringLiteral("Quillery.tb"));
     m_main->LoadToolbars();   // no file: the design layout
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")),
              m_main->toolbars().allTools(QStringLiteral("Properties")));
@@ -193,15 +198,28 @@ void tst_Toolbars::customisedLayoutSurvivesARestart()
     m_main->toolbars().band(QStringLiteral("Text Property"))->hide();
 
     m_main->SaveMainWindowState();
-    QVERIFY(QFile::exists(file));
+    QVERIFY(QFile::exists(file));   // the user's own, not the program's
+    QVERIFY(!QFile::exists(shipped));
     m_main.reset();
     newMain();
     m_main->LoadToolbars();
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")), shown);
     QVERIFY(!m_main->toolbars().band(QStringLiteral("Text Property"))->isVisibleTo(m_main.get()));
-    // Bands filled again keep their widgets.
-    QVERIFY(m_main->toolbars().styleCombo()->isVisibleTo(m_main.get()));
+    // Bands filled anew keep the style box.
+    QComboBox *style = m_main->toolbars().styleCombo();
+    QCOMPARE(m_main->findChild<QComboBox *>(QStringLiteral("cmbApplyStyle")), style);
+    QCOMPARE(style->parentWidget(), m_main->toolbars().band(QStringLiteral("Style")));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_main->findChild<QComboBox *>(QStringLiteral("cmbApplyStyle")));
+    QVERIFY(style->isVisibleTo(m_main->toolbars().band(QStringLiteral("Style"))));
     QVERIFY(!m_main->commands().action(QStringLiteral("ViewTB1"))->isChecked());
+
+    // A user without a layout gets the program directory's copy.
+    QVERIFY(QFile::rename(file, shipped));
+    newMain();
+    m_main->LoadToolbars();
+    QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")), shown);
+    QVERIFY(QFile::copy(shipped, file));
 
     // A damaged file leaves the design layout.
     QFile::resize(file, 10);
@@ -209,6 +227,44 @@ void tst_Toolbars::customisedLayoutSurvivesARestart()
     m_main->LoadToolbars();
     QCOMPARE(m_main->toolbars().shownTools(QStringLiteral("Properties")),
              m_main->toolbars().allTools(QStringLiteral("Properties")));
+
+    // A layout that cannot be written is told in the status bar.
+    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir(core::UserConfigDirectory()).removeRecursively());
+    m_env->write(QStringLiteral("config/quillery"), "a file where the folder should be");
+    QVERIFY(!m_main->SaveToolbars());
+    QVERIFY2(core::StatusText::instance().text().startsWith(QStringLiteral("The toolbar layout could not be saved")),
+             qPrintable(core::StatusText::instance().text()));
+}
+
+void tst_Toolbars::customizeShowsCaptionsAndPictures()
+{
+    core::ui::frmCustomize dialog(m_main->toolbars());
+    auto *band = dialog.findChild<QComboBox *>(QStringLiteral("cmbBand"));
+    auto *tools = dialog.findChild<QListWidget *>(QStringLiteral("lstTools"));
+    band->setCurrentText(QStringLiteral("File"));
+    QStringList captions;
+    for (int i = 0; i < tools->count(); ++i) {
+        captions << tools->item(i)->text();
+        QVERIFY(!tools->item(i)->icon().isNull());
+    }
+    QCOMPARE(captions.mid(0, 2), (QStringList{QStringLiteral("New"), QStringLiteral("Open...")}));
+    QVERIFY(captions.contains(QStringLiteral("Edit Browser List...")));
+    // Hiding a tool by its caption still stores the tool's name.
+    tools->item(0)->setCheckState(Qt::Unchecked);
+    dialog.apply();
+    QVERIFY(!m_main->toolbars().shownTools(QStringLiteral("File")).contains(QStringLiteral("tlbNew")));
+    QVERIFY(m_main->toolbars().shownTools(QStringLiteral("File")).contains(QStringLiteral("tlbOpen")));
+
+    // The preview tool carries the browser menu on its arrow.
+    QToolBar *file = m_main->toolbars().band(QStringLiteral("File"));
+    auto *preview = qobject_cast<QToolButton *>(
+        file->widgetForAction(m_main->commands().action(core::ui::toolCommand(QStringLiteral("tlbPreview")))));
+    QVERIFY(preview);
+    QCOMPARE(preview->popupMode(), QToolButton::MenuButtonPopup);
+    QVERIFY(preview->menu()->actions().contains(m_main->commands().action(QStringLiteral("Preview0"))));
+    QVERIFY(preview->menu()->actions().contains(m_main->commands().action(QStringLiteral("PreviewAll"))));
+    QVERIFY(preview->menu()->actions().contains(m_main->commands().action(QStringLiteral("EditBrowsers"))));
 }
 
 void tst_Toolbars::colouringPanelsWriteAndRecolour()

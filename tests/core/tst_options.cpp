@@ -203,6 +203,10 @@ void tst_Options::browserListKeepsDefaultMark()
     prompts.chooseFiles({QStringLiteral("/opt/c")});
     m.addBrowser();
     QCOMPARE(prompts.fileRequests.last().title, QStringLiteral("Quillery 4.01 - Choose Browser"));
+#ifndef Q_OS_WIN
+    // Programs here have no extension to filter on.
+    QCOMPARE(prompts.fileRequests.last().filter, QStringLiteral("All Files (*.*)|*.*"));
+#endif
     m.deleteBrowser(0);
     m.setDefaultBrowser(1);
     QCOMPARE(setting("File Locations", "Browser"), QStringLiteral("/opt/c"));   // written at once
@@ -214,6 +218,19 @@ void tst_Options::browserListKeepsDefaultMark()
              (QStringList{QStringLiteral("1=/usr/bin/b"), QStringLiteral("2=/opt/c")}));
     QCOMPARE(setting("File Locations", "Browser"), QStringLiteral("/opt/c"));   // the list's mark wins
     QCOMPARE(menus, 1);
+
+    // A search that finds nothing says so and offers the chooser.
+    int found = 1;
+    core::optionsHooks().findBrowsers = [&found] { return found; };
+    const qsizetype before = prompts.shown.size();
+    m.findBrowsers();
+    QCOMPARE(prompts.shown.size(), before);
+    found = 0;
+    prompts.answer(Answer::Yes);
+    prompts.chooseFiles({QStringLiteral("/opt/d")});
+    m.findBrowsers();
+    QVERIFY(prompts.texts().last().startsWith(QStringLiteral("No web browser was found")));
+    QVERIFY(m.browsers().contains(QStringLiteral("/opt/d")));
 }
 
 void tst_Options::missingDirectoryIsOfferedAndMade()

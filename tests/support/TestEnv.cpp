@@ -11,7 +11,9 @@ namespace qly::test {
 
 TestEnv::TestEnv()
     : m_oldCurrent(QDir::currentPath())
+    , m_oldConfigHome(qgetenv("XDG_CONFIG_HOME"))
 {
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(path(QStringLiteral("config"))));
     core::setProgramDirectory(m_dir.path());
     core::gIniFile = ini();
     core::gTrapErrors = false;
@@ -27,6 +29,10 @@ TestEnv::~TestEnv()
 {
     QDir::setCurrent(m_oldCurrent);
     core::gIniFile.clear();
+    if (m_oldConfigHome.isNull())
+        qunsetenv("XDG_CONFIG_HOME");
+    else
+        qputenv("XDG_CONFIG_HOME", m_oldConfigHome);
 }
 
 QString TestEnv::write(const QString &name, const QByteArray &bytes) const

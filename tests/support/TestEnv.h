@@ -7,7 +7,8 @@ namespace qly::test {
 
 // A clean place for one test: a temporary directory that serves as the
 // program directory and holds the configuration file, which gIniFile names.
-// The global flags are reset.
+// The global flags are reset, and the user's configuration directory is
+// "config" inside it, so nothing of the real user's is read or written.
 class TestEnv
 {
 public:
@@ -24,6 +25,7 @@ public:
 private:
     QTemporaryDir m_dir;
     QString m_oldCurrent;
+    QByteArray m_oldConfigHome;
 };
 
 } // namespace qly::test

@@ -8,8 +8,11 @@
 #include <QComboBox>
 #include <QDataStream>
 #include <QIODevice>
+#include <QIcon>
 #include <QMainWindow>
+#include <QMenu>
 #include <QToolBar>
+#include <QToolButton>
 #include <QWidgetAction>
 
 namespace qly::core::ui {
@@ -40,10 +43,10 @@ Toolbars::Toolbars(QMainWindow &window, CommandTable &commands)
     m_cmbApplyStyle->setToolTip(tr("Apply a style class (comes with style sheets)"));
     m_cmbApplyStyle->setEnabled(false);
     m_cmbApplyStyle->setMinimumContentsLength(12);
-    // One action holds the combo for good: a band filled again re-adds this
-    // action, since a new one would take the combo as hidden by the last fill.
-    m_applyStyle = new QWidgetAction(this);
-    m_applyStyle->setDefaultWidget(m_cmbApplyStyle);
+    // The band holds the box through an action of ours: a band that is
+    // filled anew gives the box back instead of deleting it.
+    m_styleAction = new QWidgetAction(this);
+    m_styleAction->setDefaultWidget(m_cmbApplyStyle);
 
     for (const BandLayout &layout : toolbarLayout()) {
         // Three rows by design: file tools; text and insert; format, style and browser.
@@ -88,14 +91,60 @@ QStringList Toolbars::allTools(const QString &band) const
 void Toolbars::addTool(QToolBar *bar, const QString &tool)
 {
     if (tool == QLatin1String("cmbApplyStyle")) {
-        bar->addAction(m_applyStyle);
+        bar->addAction(m_styleAction);
         return;
     }
     if (QAction *a = m_commands.action(toolCommand(tool))) {
         if (a->icon().isNull())
             a->setIcon(toolIcon(tool));
         bar->addAction(a);
+        // The preview tool carries the browser menu on its arrow.
+        if (tool == QLatin1String("tlbPreview")) {
+            if (auto *button = qobject_cast<QToolButton *>(bar->widgetForAction(a))) {
+                button->setMenu(previewMenu());
+                button->setPopupMode(QToolButton::MenuButtonPopup);
+            }
+        }
     }
+}
+
+QMenu *Toolbars::previewMenu()
+{
+    if (m_previewMenu)
+        return m_previewMenu;
+    m_previewMenu = new QMenu(&m_window);
+    m_previewMenu->setObjectName(QStringLiteral("mnuPreviewTool"));
+    for (const char *name : {"Preview0", "Preview1", "Preview2", "Preview3", "PreviewAll", "", "EditBrowsers"}) {
+        if (!*name)
+            m_previewMenu->addSeparator();
+        else if (QAction *a = m_commands.action(QString::fromLatin1(name)))
+            m_previewMenu->addAction(a);
+    }
+    return m_previewMenu;
+}
+
+QString Toolbars::toolCaption(const QString &tool) const
+{
+    if (tool == QLatin1String("cmbApplyStyle"))
+        return tr("Apply Style");
+    const QAction *a = m_commands.action(toolCommand(tool));
+    if (!a)
+        return tool;
+    // "&" marks the mnemonic; "&&" stands for one "&".
+    const QString text = a->text();
+    QString caption;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'&' && i + 1 < text.size())
+            ++i;
+        caption += text[i];
+    }
+    return caption;
+}
+
+QIcon Toolbars::toolPicture(const QString &tool) const
+{
+    const QAction *a = m_commands.action(toolCommand(tool));
+    return a && !a->icon().isNull() ? a->icon() : toolIcon(tool);
 }
 
 void Toolbars::fill(const QString &band)

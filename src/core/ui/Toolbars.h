@@ -7,6 +7,7 @@
 class QComboBox;
 class QIcon;
 class QMainWindow;
+class QMenu;
 class QToolBar;
 class QWidgetAction;
 
@@ -18,7 +19,7 @@ class CommandTable;
 // "Properties", "Style" and the browser tools. Each tool is the action of
 // the command it runs, so menu and tool are one command. The layout (band
 // positions, visibility, and the tools each band shows, in order) is kept in
-// "Quillery.tb".
+// the user's "Quillery.tb".
 class Toolbars : public QObject
 {
     Q_OBJECT
@@ -31,6 +32,10 @@ public:
     QStringList allTools(const QString &band) const;
     QStringList shownTools(const QString &band) const { return m_shown.value(band); }
     void setShownTools(const QString &band, const QStringList &tools);
+    // What the user sees of a tool: its command's caption, without the
+    // mnemonic's "&", and its picture.
+    QString toolCaption(const QString &tool) const;
+    QIcon toolPicture(const QString &tool) const;
     QComboBox *styleCombo() const { return m_cmbApplyStyle; }
 
     // The check marks of the View menu follow the bands.
@@ -42,6 +47,8 @@ public:
 private:
     void fill(const QString &band);
     void addTool(QToolBar *bar, const QString &tool);
+    // The browser entries, "Preview in All" and the list's editor.
+    QMenu *previewMenu();
 
     QMainWindow &m_window;
     CommandTable &m_commands;
@@ -49,7 +56,8 @@ private:
     QHash<QString, QStringList> m_shown;
     QStringList m_order;
     QComboBox *m_cmbApplyStyle = nullptr;
-    QWidgetAction *m_applyStyle = nullptr;
+    QWidgetAction *m_styleAction = nullptr;
+    QMenu *m_previewMenu = nullptr;
 };
 
 // A small picture for a tool: the desktop theme's where the icon naming

@@ -54,6 +54,8 @@ frmCustomize::frmCustomize(Toolbars &toolbars, QWidget *parent)
         m_choice.insert(band, toolbars.shownTools(band));
     connect(m_band, &QComboBox::currentTextChanged, this, &frmCustomize::showBand);
     showBand(m_band->currentText());
+    // Room for a band's tools without scrolling at once.
+    resize(sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 50, fontMetrics().height() * 26)));
 }
 
 void frmCustomize::showBand(const QString &band)
@@ -68,7 +70,8 @@ void frmCustomize::showBand(const QString &band)
             order << tool;
     }
     for (const QString &tool : order) {
-        auto *item = new QListWidgetItem(toolIcon(tool), tool, m_tools);
+        auto *item = new QListWidgetItem(m_toolbars.toolPicture(tool), m_toolbars.toolCaption(tool), m_tools);
+        item->setData(Qt::UserRole, tool);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(shown.contains(tool) ? Qt::Checked : Qt::Unchecked);
     }
@@ -81,7 +84,7 @@ void frmCustomize::keepBand()
     QStringList shown;
     for (int i = 0; i < m_tools->count(); ++i) {
         if (m_tools->item(i)->checkState() == Qt::Checked)
-            shown << m_tools->item(i)->text();
+            shown << m_tools->item(i)->data(Qt::UserRole).toString();
     }
     m_choice.insert(m_current, shown);
 }

@@ -3,6 +3,7 @@
 #include "core/Feedback.h"
 #include "core/Globals.h"
 #include "core/Paths.h"
+#include "core/ui/Placement.h"
 #include "core/ui/Twips.h"
 #include "documents/Workspace.h"
 #include "documents/DocumentList.h"
@@ -148,6 +149,12 @@ QWebEngineView *DocumentWindow::browser()
                 m_cmbHistory->insertItem(0, text);
             m_cmbHistory->setCurrentText(text);
         });
+        // Once the browser has read the page and what it links in, the copy
+        // need not stay among the user's files.
+        connect(m_browser, &QWebEngineView::loadFinished, this, [this](bool) {
+            if (!m_scoutFile.isEmpty() && m_browser->url() == m_scoutUrl)
+                removeScoutFile();
+        });
     }
     return m_browser;
 }
@@ -217,8 +224,17 @@ QRect DocumentWindow::geometryTwips() const
 
 void DocumentWindow::setGeometryTwips(const QRect &twips)
 {
-    QWidget *w = subWindow() ? static_cast<QWidget *>(subWindow()) : this;
-    w->setGeometry(core::ui::fromTwips(twips, w));
+    QMdiSubWindow *sub = subWindow();
+    if (!sub) {
+        setGeometry(core::ui::fromTwips(twips, this));
+        return;
+    }
+    // A maximised window keeps filling the area; a stored rectangle from
+    // another screen or a larger window is brought inside it.
+    if (sub->isMaximized())
+        return;
+    const QRect pixels = core::ui::fromTwips(twips, sub);
+    sub->setGeometry(sub->mdiArea() ? core::ui::keepInside(pixels, sub->mdiArea()->viewport()->rect()) : pixels);
 }
 
 int DocumentWindow::currentTab() const
@@ -263,9 +279,10 @@ void DocumentWindow::ShowMyScout(bool)
             core::StepFailed(QStringLiteral("Could not write ") + path + QStringLiteral(": ") + again.message);
     }
     m_scoutFile = path;
+    m_scoutUrl = QUrl::fromLocalFile(path);
     core::ShowStatus(QStringLiteral("Preview"));
     publish::CopyNeededApplets(m_edit->Text(), QFileInfo(path).absolutePath(), appletHelperFile());
-    browser()->setUrl(QUrl::fromLocalFile(path));
+    browser()->setUrl(m_scoutUrl);
     bNeedsPreview = false;
     core::EndWait();
 }
@@ -292,6 +309,11 @@ void DocumentWindow::runBrowserCommand(BrowserCommand command)
     // Before the first preview there is nothing to go back to or stop.
     if (!m_browser)
         return;
+    // The copy of the page is gone once shown: a refresh writes it anew.
+    if (command == BrowserCommand::Refresh && m_browser->url() == m_scoutUrl && m_scoutFile.isEmpty()) {
+        ShowMyScout(true);
+        return;
+    }
     switch (command) {
     case BrowserCommand::Back: m_browser->back(); break;
     case BrowserCommand::Forward: m_browser->forward(); break;

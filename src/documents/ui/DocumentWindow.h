@@ -2,6 +2,7 @@
 
 #include "documents/Document.h"
 
+#include <QUrl>
 #include <QWidget>
 
 class QTabWidget;
@@ -58,7 +59,8 @@ public:
     void runBrowserCommand(BrowserCommand command);
     // Links the selection to the page the preview shows.
     void cmdLinkTo_Click();
-    // The temporary page the preview tab shows now; empty before the first.
+    // The temporary page written for the preview tab; empty before the
+    // first and again once the tab has loaded it.
     QString scoutFile() const { return m_scoutFile; }
 
 signals:
@@ -96,7 +98,8 @@ private:
     QLabel *m_lblHistory = nullptr;
     QPushButton *m_cmdLinkTo = nullptr;
     QString m_caption;       // the caption without the window's change mark
-    QString m_scoutFile;     // the page written for the preview tab
+    QString m_scoutFile;     // the page written for the preview tab, until it has loaded
+    QUrl m_scoutUrl;         // where that page was shown
     QString m_scoutStub;     // the empty file that reserved its name
     bool m_skipQuery = false;
     bool m_closing = false;

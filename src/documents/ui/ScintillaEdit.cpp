@@ -298,10 +298,18 @@ platform::IoResult ScintillaEdit::LoadFile(int, const QString &path)
         eol = QsciScintillaBase::SC_EOL_CR;
     send(Base::SCI_SETEOLMODE, eol);
 
+    // Text put in with wrapping on is wrapped whole at once, which for a
+    // large page takes seconds; wrapped afterwards, only the lines shown
+    // are wrapped now and the rest while the program is idle.
+    const long wrap = send(Base::SCI_GETWRAPMODE);
+    if (wrap != Base::SC_WRAP_NONE)
+        send(Base::SCI_SETWRAPMODE, Base::SC_WRAP_NONE);
     send(Base::SCI_SETUNDOCOLLECTION, 0);
     send(Base::SCI_CLEARALL);
     send(Base::SCI_ALLOCATE, data.size() + 1);
     m_sci->SendScintilla(Base::SCI_ADDTEXT, uintptr_t(data.size()), data.constData());
+    if (wrap != Base::SC_WRAP_NONE)
+        send(Base::SCI_SETWRAPMODE, wrap);
     send(Base::SCI_SETUNDOCOLLECTION, 1);
     send(Base::SCI_EMPTYUNDOBUFFER);
     send(Base::SCI_SETEMPTYSELECTION, 0);
@@ -443,6 +451,12 @@ bool ScintillaEdit::WordWrap() const
 void ScintillaEdit::setWordWrap(bool wrap)
 {
     m_sci->setWrapMode(wrap ? QsciScintilla::WrapWord : QsciScintilla::WrapNone);
+    // QScintilla keeps the layout of every line of a wrapped document,
+    // which a large page pays for in memory and time; the lines of a page
+    // around the caret are enough. Colouring, which wrapping needs, goes on
+    // while the program is idle.
+    send(Base::SCI_SETLAYOUTCACHE, Base::SC_CACHE_PAGE);
+    send(Base::SCI_SETIDLESTYLING, wrap ? Base::SC_IDLESTYLING_ALL : Base::SC_IDLESTYLING_NONE);
 }
 
 void ScintillaEdit::setSelIndent(int indent)

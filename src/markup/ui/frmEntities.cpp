@@ -3,14 +3,19 @@
 #include "core/Feedback.h"
 #include "core/Globals.h"
 #include "core/Settings.h"
+#include "core/ui/Placement.h"
 #include "core/ui/Twips.h"
+#include "documents/Document.h"
+#include "documents/Workspace.h"
 #include "markup/CharacterCodes.h"
 #include "markup/CharacterCommands.h"
+#include "platform/HTMLEdit.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QPointer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -68,7 +73,10 @@ frmEntities *frmEntities::showList(QWidget *owner, QAction *check)
         list->restoreGeometryKeys();
         follow(check, list);
     }
+    const bool opening = !g_open->isVisible();
     g_open->show();
+    if (opening && !g_open->m_placed)
+        g_open->placeBesidePage();
     g_open->raise();
     core::WriteSetting(QStringLiteral("Display"), QStringLiteral("Chars List"), core::YesNo(true));
     return g_open;
@@ -125,8 +133,16 @@ QString frmEntities::GetHTMLToAdd() const
 void frmEntities::insertChosen()
 {
     const QString html = GetHTMLToAdd();
-    if (!html.isEmpty())
-        InsertEntity(html);
+    if (html.isEmpty())
+        return;
+    InsertEntity(html);
+    // The user goes on typing in the page; the list stays open beside it.
+    documents::Document *doc = documents::Workspace::CurrentDocument();
+    if (!doc)
+        return;
+    if (auto *window = dynamic_cast<QWidget *>(doc))
+        window->activateWindow();
+    doc->txtDoc().SetFocus();
 }
 
 void frmEntities::restoreGeometryKeys()
@@ -140,8 +156,30 @@ void frmEntities::restoreGeometryKeys()
     const int w = read("Width"), h = read("Height"), l = read("Left"), t = read("Top");
     if (w > 0 && h > 0)
         resize(fromTwips(w, this), fromTwips(h, this));
-    if (l >= 0 && t >= 0)
-        move(fromTwips(l, this), fromTwips(t, this));
+    const QRect stored(fromTwips(l, this), fromTwips(t, this), width(), height());
+    m_placed = l >= 0 && t >= 0 && core::ui::onSomeScreen(stored);
+    if (m_placed)
+        move(stored.topLeft());
+    else
+        placeBesidePage();
+}
+
+void frmEntities::placeBesidePage()
+{
+    // No place of its own yet, or one on a screen that is gone: beside the
+    // page being written, clear of the menu bar and the toolbars. Once
+    // shown, the window's frame counts too.
+    documents::Document *doc = documents::Workspace::CurrentDocument();
+    auto *anchor = dynamic_cast<QWidget *>(doc);
+    if (!anchor || !anchor->isVisible()) {
+        // No page yet: the workspace under the main window's bars.
+        auto *main = qobject_cast<QMainWindow *>(parentWidget());
+        anchor = main && main->centralWidget() ? main->centralWidget() : parentWidget();
+    }
+    if (!anchor || !anchor->isVisible())
+        return;
+    const QSize frame = isVisible() ? frameGeometry().size() : size();
+    move(core::ui::besideWidget(frame, anchor).topLeft());
 }
 
 void frmEntities::saveGeometryKeys()

@@ -38,11 +38,13 @@ private:
     explicit frmEntities(QWidget *owner);
     bool fill();
     void restoreGeometryKeys();
+    void placeBesidePage();
     void saveGeometryKeys();
     void insertChosen();
 
     QTreeWidget *m_lstChars = nullptr;
     bool m_saved = false;
+    bool m_placed = false;   // shown where the user left it
 };
 
 } // namespace qly::markup::ui

@@ -67,11 +67,23 @@ FileAnswer answerOf(QFileDialog &dialog)
     return answer;
 }
 
+// The start-up window stays on top of everything; a box under it could be
+// neither read nor answered, and start-up waits for the answer.
+void closeSplash()
+{
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (w->isVisible() && w->objectName() == QLatin1String("frmSplash"))
+            w->close();
+    }
+}
+
+// What every prompt does first: the splash goes, the wait cursor pauses.
 class CursorPause
 {
 public:
     explicit CursorPause(bool busy) : m_busy(busy)
     {
+        closeSplash();
         if (m_busy)
             QApplication::restoreOverrideCursor();
     }

@@ -101,7 +101,7 @@ void registerPublishCommands(core::ui::Shell &shell)
         rebuild();
     });
     core::optionsHooks().loadBrowserMenu = rebuild;
-    core::optionsHooks().findBrowsers = [] { FindBrowsers(); };
+    core::optionsHooks().findBrowsers = [] { return FindBrowsers(); };
     LoadBrowserMenu(t);
 }
 

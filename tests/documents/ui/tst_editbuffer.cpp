@@ -7,6 +7,7 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <QFile>
+#include <QVBoxLayout>
 #include <QtTest>
 #include <memory>
 
@@ -76,6 +77,7 @@ private slots:
     void typingChangesExactlyOneCharacter();
     void readOnlyAndMissingFiles_data() { kinds(); }
     void readOnlyAndMissingFiles();
+    void wrappedPageWrapsWhatIsShownFirst();
 
 private:
     void kinds();
@@ -343,6 +345,36 @@ void tst_EditBuffer::readOnlyAndMissingFiles()
     // A directory that has gone: the save fails and says so.
     const core::IoResult gone = e.SaveFile(1, m_env->path(QStringLiteral("no/such/dir/x.html")));
     QVERIFY(!gone.ok());
+}
+
+// A page opened with word wrap on wraps the lines on screen at once and the
+// rest while the program is idle, not all of them before it is shown.
+void tst_EditBuffer::wrappedPageWrapsWhatIsShownFirst()
+{
+    QByteArray page;
+    for (int i = 0; i < 3000; ++i)
+        page += "<P>caf\xc3\xa9 " + QByteArray("word ").repeated(80) + "</P>\r\n";
+    const QString file = m_env->write(QStringLiteral("long.html"), page);
+    QWidget host;
+    auto *layout = new QVBoxLayout(&host);
+    documents::ui::ScintillaEdit edit(&host);
+    layout->addWidget(edit.view());
+    host.resize(500, 300);
+    host.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    edit.setColorMode(platform::ColorTagSyntax);
+    edit.setWordWrap(true);
+    QVERIFY(edit.LoadFile(1, file).ok());
+    QVERIFY(edit.WordWrap());
+    edit.view()->viewport()->repaint();
+    // The screen line each line of the page starts on, as wrapped so far.
+    const auto screenLine = [&edit](long line) {
+        return edit.view()->SendScintilla(QsciScintillaBase::SCI_VISIBLEFROMDOCLINE, line);
+    };
+    QVERIFY(screenLine(1) > 1);
+    QVERIFY(screenLine(2999) < 2 * 2999);
+    QTRY_VERIFY_WITH_TIMEOUT(screenLine(2999) >= 3 * 2999, 20000);
+    QCOMPARE(edit.Text(), QString::fromUtf8(page));
 }
 
 QTEST_MAIN(tst_EditBuffer)

@@ -91,7 +91,7 @@ void tst_PreviewTab::previewShowsTheEditedText()
 }
 
 // The edited page shows beside its image; "Link To:" links the page shown;
-// the page goes when the window closes.
+// the copy of the page goes once the tab has loaded it.
 void tst_PreviewTab::relativeImageAndLinkTo()
 {
     test::TestEnv &env = *m_env;
@@ -121,6 +121,24 @@ void tst_PreviewTab::relativeImageAndLinkTo()
         view->page()->toPlainText([shown](const QString &t) { *shown = t; });
         return width->toInt() == 120 && shown->contains(QStringLiteral("Edited heading"));
     }()), 30000);
+    // Loaded, the copy leaves the user's folder; a refresh writes it again.
+    QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(page.filePath()), 15000);
+    QVERIFY(doc->scoutFile().isEmpty());
+    QVERIFY(m_main->commands().run(QStringLiteral("tlbRefresh")));
+    const QString again = doc->scoutFile();
+    QVERIFY(!again.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(again), 15000);
+    QVERIFY(QDir(env.path(QStringLiteral("site"))).entryList({QStringLiteral("~q*")}, QDir::Files).isEmpty());
+    // Back from another page still shows the edited page (the browser keeps it).
+    const QString other = env.write(QStringLiteral("site/other.html"), "<P>Other page</P>");
+    view->setUrl(QUrl::fromLocalFile(other));
+    QTRY_VERIFY_WITH_TIMEOUT(view->url() == QUrl::fromLocalFile(other) && !view->page()->isLoading(), 15000);
+    auto latest = std::make_shared<QString>();
+    QVERIFY(m_main->commands().run(QStringLiteral("tlbBack")));
+    QTRY_VERIFY_WITH_TIMEOUT(([&] {
+        view->page()->toPlainText([latest](const QString &t) { *latest = t; });
+        return latest->contains(QStringLiteral("Edited heading"));
+    }()), 15000);
 
     // The picture is on the screen: its red stands in the grabbed view.
     QImage shot;
@@ -147,10 +165,8 @@ void tst_PreviewTab::relativeImageAndLinkTo()
     doc->findChild<QPushButton *>(QStringLiteral("cmdLinkTo"))->click();
     QVERIFY(doc->txtDoc().Text().contains(QStringLiteral("<A HREF=\"more/next page.htm\">Edited</A> heading")));
 
-    const QString scout = doc->scoutFile();
     m_main->unloadDocument(doc);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!QFile::exists(scout));
 }
 
 int main(int argc, char **argv)
