@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QtTest>
 
 using namespace qly;
@@ -21,6 +22,7 @@ private slots:
     void namesChangeExtensionAndCase();
     void failuresAreToldAndTheRestGoesOn();
     void cancelStops();
+    void commandLineTwin();
 };
 
 namespace {
@@ -206,6 +208,39 @@ void tst_MultiFile::cancelStops()
     QCOMPARE(s.files, 2);
     QCOMPARE(env.read(QStringLiteral("w/1.htm")), QByteArray("new"));
     QCOMPARE(env.read(QStringLiteral("w/2.htm")), QByteArray("old"));
+}
+
+void tst_MultiFile::commandLineTwin()
+{
+    test::TestEnv env;
+    env.write(QStringLiteral("w/a.htm"), "Old\r\n");
+    env.write(QStringLiteral("w/b.html"), "old");
+    env.write(QStringLiteral("w/c.htm"), "none");
+    const QString cli = QStringLiteral(PROGRAM_DATA_DIR "/quillery-cli");
+    auto run = [&](const QStringList &arguments, QByteArray &out, QByteArray &err) {
+        QProcess p;
+        p.start(cli, QStringList{QStringLiteral("--ini"), env.ini()} + arguments);
+        p.waitForFinished(60000);
+        out = p.readAllStandardOutput();
+        err = p.readAllStandardError();
+        return p.exitCode();
+    };
+    env.write(QStringLiteral("quillery.ini"), "");
+    QByteArray out, err;
+    const QString entry = env.path(QStringLiteral("w/*.htm"));
+    QCOMPARE(run({QStringLiteral("grep"), QStringLiteral("-e"), QStringLiteral("OLD"), entry}, out, err), 0);
+    QCOMPARE(out, (env.path(QStringLiteral("w/a.htm")) + QStringLiteral("\n")).toLocal8Bit());
+    QCOMPARE(run({QStringLiteral("replace"), QStringLiteral("--backup"), QStringLiteral("--dos-to-unix"),
+                  QStringLiteral("--htm-to-html"), QStringLiteral("-e"), QStringLiteral("old"), QStringLiteral("new"),
+                  entry},
+                 out, err),
+             0);
+    QVERIFY(err.contains("1 replacements made"));
+    QCOMPARE(env.read(QStringLiteral("w/a.html")), QByteArray("new\n"));
+    QCOMPARE(env.read(QStringLiteral("w/a.bak")), QByteArray("Old\r\n"));
+    QCOMPARE(env.read(QStringLiteral("w/b.html")), QByteArray("old"));
+    QCOMPARE(run({QStringLiteral("grep"), QStringLiteral("-e"), QStringLiteral("zzz"), entry}, out, err), 1);
+    QCOMPARE(run({QStringLiteral("replace"), QStringLiteral("--bogus"), entry}, out, err), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_MultiFile)
