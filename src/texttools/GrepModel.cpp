@@ -5,9 +5,11 @@
 #include "core/TextCodec.h"
 #include "platform/Prompts.h"
 #include "texttools/FileEntries.h"
+#include "texttools/WriteQueue.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 namespace qly::texttools {
 
@@ -139,6 +141,56 @@ GrepSummary GrepModel::FindAndPresentFiles(GrepProgress &progress)
     return s;
 }
 
+namespace {
+
+// Writes one rewritten file: its backup first, then the text to its target,
+// then the target's name in the asked case. An empty result is success.
+QString writeRewritten(const QString &path, const QByteArray &original, const QByteArray &output,
+                       const RewriteOptions &options)
+{
+    if (options.backup) {
+        const core::IoResult b = core::writeFileAtomically(BackupPath(path), original);
+        if (!b.ok())
+            return path + QStringLiteral(": the backup could not be written (") + b.message + QStringLiteral(")");
+    }
+    const QString target = TargetPath(path, options.htmToHtml);
+    const core::IoResult w = core::writeFileAtomically(target, output);
+    if (!w.ok())
+        return target + QStringLiteral(": ") + (w.message.isEmpty() ? QStringLiteral("cannot be written") : w.message);
+    const QString cased = CasedPath(target, options.nameCase);
+    // A rename is whole or not at all; another file by that name stays.
+    if (cased != target && (QFileInfo::exists(cased) || !QFile::rename(target, cased)))
+        return target + QStringLiteral(": could not be renamed to ") + cased;
+    return {};
+}
+
+// True when two files of the run would write the same path (a backup, a new
+// extension or a new case), so their order matters and they go one by one.
+bool pathsMeet(const QList<QStringList> &lists, const RewriteOptions &options)
+{
+    if (!options.backup && !options.htmToHtml && options.nameCase == NameCase::DontChange)
+        return false;
+    QSet<QString> seen;
+    for (const QStringList &files : lists) {
+        for (const QString &path : files) {
+            const QString target = TargetPath(path, options.htmToHtml);
+            QStringList written{path, target, CasedPath(target, options.nameCase)};
+            if (options.backup)
+                written << BackupPath(path);
+            written.removeDuplicates();
+            for (const QString &w : written) {
+                const QString key = w.toLower();
+                if (seen.contains(key))
+                    return true;
+                seen.insert(key);
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 GrepSummary GrepModel::NewReplace(GrepProgress &progress)
 {
     GrepSummary s;
@@ -146,52 +198,57 @@ GrepSummary GrepModel::NewReplace(GrepProgress &progress)
         return s;
     int total = 0;
     const QList<QStringList> lists = expandEntries(total);
+    // Files are read and rewritten here, one after the other, and written by
+    // the queue, several at once unless their paths meet.
+    std::vector<QString> early(total);      // failures before any write
+    std::vector<long> counts(total, 0);
+    std::vector<bool> queued(total, false);
+    std::vector<QString> paths(total);
     int done = 0;
-    for (const QStringList &files : lists) {
-        for (const QString &path : files) {
-            if ((s.cancelled = progress.cancelled()))
-                break;
-            progress.processing(path, done++, total);
-            QByteArray bytes;
-            bool endEntry = false;
-            if (!readListed(path, bytes, endEntry)) {
-                if (endEntry)
+    {
+        WriteQueue writes(pathsMeet(lists, options) ? 1 : WriterCount);
+        for (const QStringList &files : lists) {
+            for (const QString &path : files) {
+                if ((s.cancelled = progress.cancelled()))
                     break;
-                s.failures << path + QStringLiteral(": cannot be read");
-                continue;
-            }
-            if (LooksBinary(bytes)) {
-                s.failures << path + QStringLiteral(": a binary file, not rewritten");
-                continue;
-            }
-            core::DecodedFile decoded = core::decodeFile(bytes);
-            const long count = RewriteText(decoded.text, terms, options.conversion);
-            if (options.backup) {
-                const core::IoResult b = core::writeFileAtomically(BackupPath(path), bytes);
-                if (!b.ok()) {
-                    s.failures << path + QStringLiteral(": the backup could not be written (") + b.message +
-                                      QStringLiteral(")");
+                const int index = done++;
+                paths[index] = path;
+                progress.processing(path, index, total);
+                QByteArray bytes;
+                bool endEntry = false;
+                if (!readListed(path, bytes, endEntry)) {
+                    if (endEntry)
+                        break;
+                    early[index] = path + QStringLiteral(": cannot be read");
                     continue;
                 }
+                if (LooksBinary(bytes)) {
+                    early[index] = path + QStringLiteral(": a binary file, not rewritten");
+                    continue;
+                }
+                core::DecodedFile decoded = core::decodeFile(bytes);
+                counts[index] = RewriteText(decoded.text, terms, options.conversion);
+                QByteArray output = core::encodeText(decoded.text, decoded.encoding);
+                if (!options.backup)
+                    bytes.clear();
+                queued[index] = true;
+                writes.add(index, [path, bytes = std::move(bytes), output = std::move(output), o = options] {
+                    return writeRewritten(path, bytes, output, o);
+                });
             }
-            const QString target = TargetPath(path, options.htmToHtml);
-            const core::IoResult w = core::writeFileAtomically(target, core::encodeText(decoded.text, decoded.encoding));
-            if (!w.ok()) {
-                s.failures << target + QStringLiteral(": ") +
-                                  (w.message.isEmpty() ? QStringLiteral("cannot be written") : w.message);
-                continue;
-            }
-            const QString cased = CasedPath(target, options.nameCase);
-            if (cased != target) {
-                // A rename is whole or not at all; another file by that name stays.
-                if (QFileInfo::exists(cased) || !QFile::rename(target, cased))
-                    s.failures << target + QStringLiteral(": could not be renamed to ") + cased;
-            }
-            s.replacements += count;
-            ++s.files;
+            if (s.cancelled)
+                break;
         }
-        if (s.cancelled)
-            break;
+        const std::vector<QString> &written = writes.finish();
+        for (int i = 0; i < done; ++i) {
+            const QString failure = queued[i] && i < int(written.size()) ? written[i] : early[i];
+            if (!failure.isEmpty()) {
+                s.failures << failure;
+            } else if (queued[i]) {
+                s.replacements += counts[i];
+                ++s.files;
+            }
+        }
     }
     core::EndWait();
     core::ShowStatus(QString());
