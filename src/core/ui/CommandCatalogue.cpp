@@ -52,7 +52,7 @@ const std::vector<CommandInfo> &commandCatalogue()
         {S("EditCopy"), S("&Copy"), K(K::Copy)},
         {S("EditPaste"), S("&Paste"), K(K::Paste)},
         {S("EditFind"), S("&Find..."), K(K::Find)},
-        {S("EditReplace"), S("&Replace..."), K(K::Replace)},
+        {S("EditReplace"), S("&Replace..."), K(S("Ctrl+H"))},
         {S("EditFindNext"), S("Find Ne&xt"), K(S("F3"))},
         {S("EditFindPrevious"), S("Find Previ&ous"), K(S("Shift+F3"))},
         {S("EditMFReplace"), S("Multi-File Replace"), {}},

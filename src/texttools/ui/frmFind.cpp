@@ -44,7 +44,7 @@ frmFind::frmFind(QWidget *parent) : QDialog(parent)
     m_cmbFind->setEditable(true);
     m_cmbFind->setInsertPolicy(QComboBox::NoInsert);
     m_cmbFind->setMinimumWidth(m_cmbFind->fontMetrics().averageCharWidth() * 40);
-    auto *lblFind = new QLabel(QStringLiteral("Fi&nd What:"), this);
+    auto *lblFind = new QLabel(QStringLiteral("Fin&d What:"), this);
     lblFind->setBuddy(m_cmbFind);
     m_cmbReplace = new QComboBox(this);
     m_cmbReplace->setObjectName(QStringLiteral("cmbReplace"));

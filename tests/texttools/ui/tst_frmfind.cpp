@@ -91,10 +91,13 @@ void tst_frmFind::findGuiseTypedAndF3()
     core::ui::CommandTable &t = m_main->commands();
     QCOMPARE(t.action(QStringLiteral("EditFindNext"))->shortcut(), QKeySequence(QStringLiteral("F3")));
     QCOMPARE(t.action(QStringLiteral("EditFindPrevious"))->shortcut(), QKeySequence(QStringLiteral("Shift+F3")));
-    int f3 = 0;
-    for (QAction *a : m_main->findChildren<QAction *>())
-        f3 += a->shortcut() == QKeySequence(QStringLiteral("F3")) ? 1 : 0;
-    QCOMPARE(f3, 1);
+    QCOMPARE(t.action(QStringLiteral("EditReplace"))->shortcut(), QKeySequence(QStringLiteral("Ctrl+H")));
+    for (const char *key : {"F3", "Shift+F3", "Ctrl+F", "Ctrl+H"}) {
+        int users = 0;
+        for (QAction *a : m_main->findChildren<QAction *>())
+            users += a->shortcut() == QKeySequence(QString::fromLatin1(key)) ? 1 : 0;
+        QVERIFY2(users == 1, key);
+    }
 
     QVERIFY(t.run(QStringLiteral("EditFind")));
     frmFind *f = dialog();
