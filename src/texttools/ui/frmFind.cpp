@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -110,8 +111,17 @@ frmFind::frmFind(QWidget *parent) : QDialog(parent)
     bool okTop = false;
     const int left = core::ReadSetting(kSection, QStringLiteral("Left")).toInt(&okLeft);
     const int top = core::ReadSetting(kSection, QStringLiteral("Top")).toInt(&okTop);
-    if (okLeft && okTop)
-        move(core::ui::fromTwips(left, this), core::ui::fromTwips(top, this));
+    if (okLeft && okTop) {
+        // Kept on the screen, which may have shrunk or changed its scale since.
+        QPoint at(core::ui::fromTwips(left, this), core::ui::fromTwips(top, this));
+        if (const QScreen *screen = this->screen()) {
+            const QRect room = screen->availableGeometry();
+            const QSize size = sizeHint();
+            at.setX(std::clamp(at.x(), room.left(), std::max(room.left(), room.right() - size.width())));
+            at.setY(std::clamp(at.y(), room.top(), std::max(room.top(), room.bottom() - size.height())));
+        }
+        move(at);
+    }
 }
 
 frmFind::~frmFind() = default;
@@ -155,7 +165,9 @@ void frmFind::applyGuise()
     m_cmbReplace->setVisible(replacing);
     m_btnOptions[1]->setVisible(replacing);
     m_btnOptions[0]->setText(m_model.buttonCaption());
-    adjustSize();
+    // The Find guise is shorter: the hidden field gives its room back.
+    layout()->activate();
+    resize(sizeHint());
 }
 
 void frmFind::readFields()

@@ -22,6 +22,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -90,6 +91,11 @@ frmGrep::frmGrep(QWidget *parent) : QDialog(parent)
     layout->addLayout(bottom, 1);
     layout->addLayout(actions);
     setDirectory(QDir::currentPath());
+    m_grdGrep->setMinimumHeight(m_grdGrep->fontMetrics().height() * 5);
+    if (const QScreen *screen = this->screen()) {
+        const QSize room = screen->availableGeometry().size() * 9 / 10;
+        resize(sizeHint().boundedTo(room));
+    }
 }
 
 frmGrep &frmGrep::instance(QWidget *parent)
@@ -203,13 +209,15 @@ QWidget *frmGrep::buildOptions()
         caseLayout->addWidget(m_rbCase[i]);
     }
     m_rbCase[0]->setChecked(true);
-    auto *layout = new QVBoxLayout(box);
+    // The two groups side by side keep the window short enough for a small
+    // screen at a large scale.
+    auto *layout = new QGridLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_chkBackup);
-    layout->addWidget(conversion);
-    layout->addWidget(m_chkHTMToHTML);
-    layout->addWidget(nameCase);
-    layout->addStretch();
+    layout->addWidget(m_chkBackup, 0, 0, 1, 2);
+    layout->addWidget(m_chkHTMToHTML, 1, 0, 1, 2);
+    layout->addWidget(conversion, 2, 0);
+    layout->addWidget(nameCase, 2, 1);
+    layout->setRowStretch(3, 1);
     return box;
 }
 
