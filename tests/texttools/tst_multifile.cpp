@@ -22,6 +22,7 @@ private slots:
     void namesChangeExtensionAndCase();
     void failuresAreToldAndTheRestGoesOn();
     void cancelStops();
+    void vanishedFileEndsItsEntry();
     void commandLineTwin();
 };
 
@@ -32,7 +33,14 @@ struct Recorder : GrepProgress {
     QStringList found;
     QStringList processed;
     int stopAfter = -1;
-    void processing(const QString &path, int, int) override { processed << path; }
+    QString removeWhenAt;    // takes a file away while the run goes on
+    QString removed;
+    void processing(const QString &path, int, int) override
+    {
+        processed << path;
+        if (path == removeWhenAt)
+            QFile::remove(removed);
+    }
     bool cancelled() override { return stopAfter >= 0 && processed.size() >= stopAfter; }
     void addToFoundList(const QString &line) override { found << line; }
 };
@@ -208,6 +216,27 @@ void tst_MultiFile::cancelStops()
     QCOMPARE(s.files, 2);
     QCOMPARE(env.read(QStringLiteral("w/1.htm")), QByteArray("new"));
     QCOMPARE(env.read(QStringLiteral("w/2.htm")), QByteArray("old"));
+}
+
+void tst_MultiFile::vanishedFileEndsItsEntry()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    for (const char *n : {"w/a.htm", "w/b.htm", "w/c.htm", "v/d.htm"})
+        env.write(QString::fromLatin1(n), "old");
+    GrepModel m;
+    m.entries << env.path(QStringLiteral("w/*.htm")) << env.path(QStringLiteral("v/*.htm"));
+    m.terms << Term{QStringLiteral("old"), QStringLiteral("new")};
+    Recorder r;
+    r.removeWhenAt = env.path(QStringLiteral("w/a.htm"));
+    r.removed = env.path(QStringLiteral("w/b.htm"));
+    const GrepSummary s = m.NewReplace(r);
+    // b.htm went away after the listing: told, and c.htm of that entry is not
+    // reached; the next entry goes on.
+    QCOMPARE(prompts.shown.at(0).text, QStringLiteral("File not found.: ") + r.removed);
+    QCOMPARE(s.files, 2);
+    QCOMPARE(env.read(QStringLiteral("w/c.htm")), QByteArray("old"));
+    QCOMPARE(env.read(QStringLiteral("v/d.htm")), QByteArray("new"));
 }
 
 void tst_MultiFile::commandLineTwin()

@@ -6,6 +6,8 @@
 #include "texttools/ui/frmGrep.h"
 
 #include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 
 namespace qly::texttools::ui {
 
@@ -22,6 +24,11 @@ void registerTextToolCommands(core::ui::Shell &shell)
         g.show();
         g.raise();
         g.activateWindow();
+    });
+    // The marks of the find dialog follow the current document.
+    QObject::connect(shell.mdiArea(), &QMdiArea::subWindowActivated, w, [] {
+        if (frmFind *f = frmFind::existing())
+            f->followCurrentDocument();
     });
 }
 

@@ -133,6 +133,11 @@ frmFind &frmFind::instance(QWidget *parent)
     return *g_instance;
 }
 
+frmFind *frmFind::existing()
+{
+    return g_instance;
+}
+
 platform::HTMLEdit *frmFind::currentEdit() const
 {
     documents::Document *doc = documents::Workspace::CurrentDocument();

@@ -32,6 +32,10 @@ public:
     void showGuise(const QString &guise);
     // F3 and Shift+F3: the next or previous hit of the last search text.
     void findAgain(bool backwards);
+    // Moves the marks of the hits to the document that is current now.
+    void followCurrentDocument() { updateHighlight(); }
+    // The open dialog, or null.
+    static frmFind *existing();
 
     FindModel &model() { return m_model; }
     QComboBox *findField() const { return m_cmbFind; }

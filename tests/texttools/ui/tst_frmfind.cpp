@@ -37,7 +37,7 @@ private slots:
 
 private:
     frmFind *dialog() const { return m_main->findChild<frmFind *>(); }
-    platform::HTMLEdit &open(const QByteArray &text);
+    platform::HTMLEdit &open(const QByteArray &text, const char *name = "page.html");
 
     std::unique_ptr<test::TestEnv> m_env;
     std::unique_ptr<test::ScriptedPrompts> m_prompts;
@@ -74,9 +74,9 @@ void tick(QCheckBox *box)
 
 } // namespace
 
-platform::HTMLEdit &tst_frmFind::open(const QByteArray &text)
+platform::HTMLEdit &tst_frmFind::open(const QByteArray &text, const char *name)
 {
-    const QString file = m_env->write(QStringLiteral("page.html"), text);
+    const QString file = m_env->write(QString::fromLatin1(name), text);
     if (!documents::OpenDocumentFile(file))
         qFatal("cannot open the page");
     platform::HTMLEdit &e = m_main->activeDocument()->txtDoc();
@@ -131,10 +131,16 @@ void tst_frmFind::findGuiseTypedAndF3()
     QCOMPARE(e.SelStart(), 14);
     QVERIFY(m_prompts->shown.isEmpty());
 
+    // The marks follow the document that becomes current.
+    platform::HTMLEdit &other = open("xx alpha", "other.html");
+    auto *otherView = dynamic_cast<documents::ui::ScintillaEdit *>(&other)->view();
+    QTRY_VERIFY(otherView->SendScintilla(QsciScintilla::SCI_INDICATORVALUEAT, 9UL, 3L) != 0);
+    QCOMPARE(marked(14), 0L);
+
     // Escape closes the dialog and takes the marks away.
     QTest::keyClick(f, Qt::Key_Escape);
     QVERIFY(!f->isVisible());
-    QTRY_COMPARE(marked(14), 0L);
+    QTRY_COMPARE(otherView->SendScintilla(QsciScintilla::SCI_INDICATORVALUEAT, 9UL, 3L), 0L);
 }
 
 void tst_frmFind::replaceGuiseWithRegex()
