@@ -78,12 +78,19 @@ void FindModel::readRange(const platform::HTMLEdit &edit, int &start, int &end)
 
 bool FindModel::FindNext(platform::HTMLEdit &edit, bool backwards)
 {
-    const QString text = edit.Text();
+    // A plain search forwards is the buffer's own Find, which needs no copy
+    // of the text; the document's text is read only when a line-end
+    // place-holder asks which line end it uses.
+    static const QString eolWord = QStringLiteral("[End Of Line Character]");
+    const bool own = m_regex || backwards;
+    QString text;
+    if (own || m_findText.contains(eolWord, Qt::CaseInsensitive))
+        text = edit.Text();
     const SearchPattern p = pattern(text);
     if (p.isEmpty() || !patternUsable(p))
         return false;
     int rangeStart = 0;
-    int rangeEnd = int(text.size());
+    int rangeEnd = edit.GetTextLength();
     if (m_options[InSelection])
         readRange(edit, rangeStart, rangeEnd);
 
@@ -96,7 +103,15 @@ bool FindModel::FindNext(platform::HTMLEdit &edit, bool backwards)
             start = edit.SelStart() + 1;   // pass the hit that is selected now
         else if (m_options[FromTop] && !m_findNext)
             start = rangeStart;
-        hit = p.next(text, std::max(start, rangeStart), rangeEnd);
+        start = std::max(start, rangeStart);
+        if (own) {
+            hit = p.next(text, start, rangeEnd);
+        } else {
+            const QString search = ExpandSearchText(m_findText, text);
+            const int flags = (m_options[WholeWord] ? platform::FindWholeWord : 0) |
+                              (m_options[MatchCase] ? platform::FindMatchCase : 0) | platform::FindNoHighlight;
+            hit = {edit.Find(search, start, rangeEnd, flags), int(search.size())};
+        }
     }
     if (!hit.found()) {
         platform::MsgBox(QStringLiteral("Search text not found."), Buttons::Ok, Icon::None,
