@@ -146,9 +146,14 @@ int FindModel::Replace(platform::HTMLEdit &edit, Mode mode, const std::function<
     int from = m_options[FromTop] ? rangeStart : std::max(edit.SelStart(), rangeStart);
     int shift = 0;
     int count = 0;
-    bool grouped = false;
+    // "ALL" builds the replaced stretch, from the first hit to the end of the
+    // last, in memory and puts it into the buffer as one edit: one step to
+    // undo, and no cost per hit in the control.
+    int spanStart = -1;
+    int spanEnd = -1;
+    QString span;
     for (;;) {
-        if (mode == Mode::All && cancelled && cancelled())
+        if (mode == Mode::All && cancelled && (count % 256) == 0 && cancelled())
             break;
         const Hit hit = p.next(text, from, rangeEnd);
         if (!hit.found()) {
@@ -157,9 +162,17 @@ int FindModel::Replace(platform::HTMLEdit &edit, Mode mode, const std::function<
                                  Icon::Exclamation);
             break;
         }
-        const int at = hit.position + shift;
-        edit.SetSel(at, at + hit.length);
-        if (mode == Mode::One) {
+        const QString with = p.replacementFor(text, hit, replacement);
+        if (mode == Mode::All) {
+            if (spanStart < 0)
+                spanStart = hit.position;
+            else
+                span += QStringView(text).mid(spanEnd, hit.position - spanEnd);
+            span += with;
+            spanEnd = hit.position + hit.length;
+        } else {
+            const int at = hit.position + shift;
+            edit.SetSel(at, at + hit.length);
             const Answer a = platform::MsgBox(QStringLiteral("Replace this occurrence ?"), Buttons::YesNoCancel,
                                               Icon::Question);
             if (a == Answer::Cancel)
@@ -168,18 +181,18 @@ int FindModel::Replace(platform::HTMLEdit &edit, Mode mode, const std::function<
                 from = hit.position + hit.length;
                 continue;
             }
-        } else if (!grouped) {
-            edit.PrepareUndo();   // Replace All is one step to undo
-            grouped = true;
+            edit.setSelText(with);
         }
-        const QString with = p.replacementFor(text, hit, replacement);
-        edit.setSelText(with);
         shift += int(with.size()) - hit.length;
         from = hit.position + hit.length;
         ++count;
     }
-    if (grouped)
+    if (spanStart >= 0) {
+        edit.PrepareUndo();
+        edit.SetSel(spanStart, spanEnd);
+        edit.setSelText(span);
         edit.EndPUndo();
+    }
     if (m_options[InSelection] && count > 0) {
         m_rangeEnd += shift;
         m_lastHitStart = m_lastHitEnd = -1;

@@ -183,15 +183,18 @@ void tst_FindModel::replaceOneAsksAtEachHit()
 
 void tst_FindModel::replaceAllCancelAndUndo()
 {
-    Fixture f(QStringLiteral("a a a a a a"));
+    const QString text = QStringLiteral("a ").repeated(1000);
+    Fixture f(text);
     f.model.setFindText(QStringLiteral("a"));
     f.model.setReplaceText(QStringLiteral("b"));
+    // The cancel key is looked at every 256 hits; here it is down at the second look.
     int asked = 0;
-    QCOMPARE(f.model.Replace(f.edit, FindModel::Mode::All, [&asked] { return ++asked > 2; }), 2);
-    QCOMPARE(f.edit.Text(), QStringLiteral("b b a a a a"));
+    QCOMPARE(f.model.Replace(f.edit, FindModel::Mode::All, [&asked] { return ++asked > 1; }), 256);
+    QCOMPARE(f.edit.Text(), QStringLiteral("b ").repeated(256) + QStringLiteral("a ").repeated(744));
+    QCOMPARE(f.prompts.texts().last(), QStringLiteral("256 replacements made"));
     // Replace All is one step to undo.
     f.edit.Undo();
-    QCOMPARE(f.edit.Text(), QStringLiteral("a a a a a a"));
+    QCOMPARE(f.edit.Text(), text);
 }
 
 void tst_FindModel::regexOnAndOff()
