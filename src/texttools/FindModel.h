@@ -55,7 +55,7 @@ public:
     bool FindNext(platform::HTMLEdit &edit, bool backwards = false);
 
     // "ONE" asks at each hit, "ALL" replaces every hit; the count box at the
-    // end. `cancelled` is asked at each step of "ALL". Returns the count.
+    // end. `cancelled` is asked every 256 hits of "ALL". Returns the count.
     int Replace(platform::HTMLEdit &edit, Mode mode, const std::function<bool()> &cancelled = {});
 
     // The pattern as the options make it, on the expanded search text.
