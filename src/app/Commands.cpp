@@ -10,6 +10,7 @@
 #include "markup/ui/MarkupCommands.h"
 #include "platform/Prompts.h"
 #include "publish/ui/PreviewCommands.h"
+#include "texttools/ui/TextToolCommands.h"
 
 namespace qly::app {
 
@@ -53,6 +54,7 @@ void registerCommands(frmMain &window)
     documents::ui::registerDocumentCommands(window);
     markup::ui::registerMarkupCommands(window);
     publish::ui::registerPublishCommands(window);
+    texttools::ui::registerTextToolCommands(window);
     registerMainCommands(window);
 }
 

@@ -24,6 +24,16 @@ const std::vector<Subcommand> &subcommands()
     static const std::vector<Subcommand> table = {
         {QStringLiteral("publish"), QStringLiteral("SOURCE TARGET"),
          QStringLiteral("Publish SOURCE into TARGET with the [Publishing] settings"), publishCommand},
+        {QStringLiteral("grep"), QStringLiteral("-e TERM [-e TERM]... FILE|PATTERN..."),
+         QStringLiteral("List the files that hold a term, without regard to case; \"dir/*.htm\" takes\n"
+                        "      only three-letter extensions, \"dir/*.*\" every file"),
+         grepCommand},
+        {QStringLiteral("replace"),
+         QStringLiteral("[--backup] [--dos-to-unix|--unix-to-dos] [--htm-to-html] [--lower-case|--mixed-case]\n"
+                        "      -e FIND REPLACEMENT [-e FIND REPLACEMENT]... FILE|PATTERN..."),
+         QStringLiteral("Replace every FIND in every file, without regard to case, as the editor's\n"
+                        "      Multi-File Replace does; each file is replaced whole or not at all"),
+         replaceCommand},
     };
     return table;
 }

@@ -33,5 +33,7 @@ QString usage();
 
 // Subcommands, one file each.
 int publishCommand(const QStringList &arguments);
+int grepCommand(const QStringList &arguments);
+int replaceCommand(const QStringList &arguments);
 
 } // namespace qly::cli
