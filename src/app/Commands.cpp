@@ -9,6 +9,7 @@
 #include "documents/ui/DocumentCommands.h"
 #include "markup/ui/MarkupCommands.h"
 #include "publish/ui/PreviewCommands.h"
+#include "texttools/ui/ConversionCommands.h"
 
 #include <QDesktopServices>
 #include <QUrl>
@@ -50,6 +51,7 @@ void registerCommands(frmMain &window)
     documents::ui::registerDocumentCommands(window);
     markup::ui::registerMarkupCommands(window);
     publish::ui::registerPublishCommands(window);
+    texttools::ui::registerConversionCommands(window);
     registerMainCommands(window);
 }
 

@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/Settings.h"
 #include "core/Startup.h"
+#include "texttools/TextToHtmlArguments.h"
 
 #include <QFileInfo>
 
@@ -24,6 +25,10 @@ const std::vector<Subcommand> &subcommands()
     static const std::vector<Subcommand> table = {
         {QStringLiteral("publish"), QStringLiteral("SOURCE TARGET"),
          QStringLiteral("Publish SOURCE into TARGET with the [Publishing] settings"), publishCommand},
+        {QStringLiteral("convert"), QStringLiteral("IN.txt OUT.html [options]"),
+         QStringLiteral("Convert the text file IN.txt into the HTML page OUT.html, with these rules:\n")
+             + texttools::ConvertArgumentsHelp().trimmed(),
+         convertCommand},
     };
     return table;
 }

@@ -33,5 +33,6 @@ QString usage();
 
 // Subcommands, one file each.
 int publishCommand(const QStringList &arguments);
+int convertCommand(const QStringList &arguments);
 
 } // namespace qly::cli
