@@ -118,7 +118,8 @@ std::unique_ptr<SpellChecker> SetupDictionaries(std::unique_ptr<CustomDictionary
     const QString path = CustomDictionaryPath();
     // A list the user named that is not there is made on request; the
     // default list in the user's data folder is made with its first word.
-    const bool named = !core::ReadSetting(QStringLiteral("General"), QStringLiteral("Custom Dictionary")).trimmed().isEmpty();
+    const bool named =
+        !core::ReadSetting(QStringLiteral("General"), QStringLiteral("Custom Dictionary")).trimmed().isEmpty();
     if (named && !QFileInfo::exists(path)
         && platform::MsgBox(QStringLiteral("Custom dictionary ") + path
                                 + QStringLiteral(" does not exist.  Create it now ?"),

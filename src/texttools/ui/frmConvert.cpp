@@ -3,6 +3,7 @@
 #include "core/Paths.h"
 #include "documents/Workspace.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -63,9 +64,11 @@ frmConvert::frmConvert(QWidget *parent)
     m_chkPre = check("chkPre", QStringLiteral("Leave all the text as it is (using <PRE>)"), this);
     preRow->addWidget(m_chkPre);
     const char *columns[3] = {"40 Columns", "80 Columns", "132 Columns"};
+    auto *columnGroup = new QButtonGroup(this);
     for (int i = 0; i < 3; ++i) {
         m_rbcols[i] = new QRadioButton(QString::fromLatin1(columns[i]), this);
         m_rbcols[i]->setObjectName(indexed("rbcols", i));
+        columnGroup->addButton(m_rbcols[i]);
         preRow->addWidget(m_rbcols[i]);
     }
     m_rbcols[1]->setChecked(true);
@@ -121,6 +124,9 @@ frmConvert::frmConvert(QWidget *parent)
     rbDocument->setChecked(true);
     m_rbFiles = new QRadioButton(QStringLiteral("Convert text files..."), this);
     m_rbFiles->setObjectName(QStringLiteral("rbFiles"));
+    auto *targetGroup = new QButtonGroup(this);
+    targetGroup->addButton(rbDocument);
+    targetGroup->addButton(m_rbFiles);
     targetRow->addWidget(rbDocument);
     targetRow->addWidget(m_rbFiles);
     targetRow->addStretch();
@@ -147,6 +153,15 @@ frmConvert::frmConvert(QWidget *parent)
     });
     connect(m_rbFiles, &QRadioButton::toggled, this, &frmConvert::showTarget);
     showTarget();
+    // Preformatted text takes a width and no other rule.
+    const auto showPre = [this, rules] {
+        const bool pre = m_chkPre->isChecked();
+        for (QRadioButton *column : m_rbcols)
+            column->setEnabled(pre);
+        rules->setEnabled(!pre);
+    };
+    connect(m_chkPre, &QCheckBox::toggled, this, showPre);
+    showPre();
 }
 
 void frmConvert::showFor(QWidget *parent)
