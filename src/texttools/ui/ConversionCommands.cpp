@@ -5,6 +5,7 @@
 #include "texttools/TextToHtmlFile.h"
 #include "texttools/ui/frmConvert.h"
 #include "texttools/ui/frmSpeller.h"
+#include "texttools/ui/SpellUnderline.h"
 
 #include <QMainWindow>
 
@@ -18,6 +19,7 @@ void registerConversionCommands(core::ui::Shell &shell)
     t.bind(QStringLiteral("InsertTextFile"), [] { InsertTextFile_Click(); });
     t.bind(QStringLiteral("ToolsSpellCheck"), [w] { frmSpeller::run(w); });
     installTextFileDrop();
+    SpellUnderline::install(shell);
 }
 
 } // namespace qly::texttools::ui

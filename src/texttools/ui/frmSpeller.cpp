@@ -2,6 +2,7 @@
 
 #include "core/Settings.h"
 #include "platform/Prompts.h"
+#include "texttools/ui/SpellUnderline.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -143,6 +144,8 @@ void frmSpeller::run(QWidget *parent)
 {
     frmSpeller dialog(parent);
     CheckSpelling([&dialog](SpellSession &session, QString &replacement) { return dialog.ask(session, replacement); });
+    // Words added on the way count for the underlining too.
+    SpellUnderline::forget();
 }
 
 } // namespace qly::texttools::ui

@@ -10,6 +10,8 @@
 #include "texttools/ui/frmConvert.h"
 #include "texttools/ui/frmSpeller.h"
 
+#include <Qsci/qsciscintilla.h>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -93,6 +95,13 @@ void tst_TextToolsDialogs::spellerDialog()
     platform::setPrompts(&prompts);
     app::frmMain w;
     platform::HTMLEdit *edit = openDocument(w, QStringLiteral("<A HREF=\"teh.html\">teh</A> wrold teh"));
+    // Unknown words of the text are underlined as they stand, those in tags not.
+    auto *view = w.findChild<QsciScintilla *>();
+    const auto underlined = [view](int position) {
+        return view->SendScintilla(QsciScintillaBase::SCI_INDICATORVALUEAT, 8, position) != 0;
+    };
+    QTRY_VERIFY(underlined(20));
+    QVERIFY(underlined(28) && underlined(34) && !underlined(10) && !underlined(24) && !underlined(32));
     QStringList shownWords;
     // Answers each question of the dialog as a user does: the first word is
     // changed everywhere to the first suggestion, the second ignored.
