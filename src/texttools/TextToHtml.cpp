@@ -154,15 +154,21 @@ void ProcessLines(QStringList &lines, const ConvertOptions &o, QString &out,
             MarkBreaks(lines);
     }
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        if (const auto note = notes.find(i); note != notes.end())
-            out += note->second + kCRLF;
-        if (lines.at(i) != kSkipLine)
-            out += lines.at(i) + kCRLF;
+        if (const auto note = notes.find(i); note != notes.end()) {
+            out += note->second;
+            out += kCRLF;
+        }
+        if (lines.at(i) != kSkipLine) {
+            out += lines.at(i);
+            out += kCRLF;
+        }
         if (out.size() > kFlushLimit)
             flush(out);
     }
-    if (const auto note = notes.find(lines.size()); note != notes.end())
-        out += note->second + kCRLF;
+    if (const auto note = notes.find(lines.size()); note != notes.end()) {
+        out += note->second;
+        out += kCRLF;
+    }
 }
 
 QString ConvertText(QStringView text, const ConvertOptions &o)
