@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QStringDecoder>
+#include <QStringEncoder>
 
 namespace qly::texttools {
 
@@ -114,30 +116,35 @@ std::unique_ptr<SpellChecker> SpellChecker::open(const DictionaryFiles &files, Q
     checker->m_hunspell = std::make_unique<Hunspell>(QFile::encodeName(files.aff).constData(),
                                                     QFile::encodeName(files.dic).constData());
     checker->m_name = files.name;
-    checker->m_utf8 = QString::fromStdString(checker->m_hunspell->get_dict_encoding())
-                          .compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) == 0;
+    checker->m_encoding = QByteArray::fromStdString(checker->m_hunspell->get_dict_encoding());
+    checker->m_utf8 = checker->m_encoding.compare("UTF-8", Qt::CaseInsensitive) == 0;
     return checker;
 }
 
+// An 8-bit dictionary is read in its own encoding where Qt knows it, else
+// as ISO 8859-1.
 std::string SpellChecker::encode(const QString &word) const
 {
-    return m_utf8 ? word.toStdString() : word.toLatin1().toStdString();
+    if (m_utf8)
+        return word.toStdString();
+    QStringEncoder encoder(m_encoding.constData());
+    return encoder.isValid() ? QByteArray(encoder(word)).toStdString() : word.toLatin1().toStdString();
 }
 
 QString SpellChecker::decode(const std::string &word) const
 {
-    return m_utf8 ? QString::fromStdString(word) : QString::fromLatin1(word.data(), qsizetype(word.size()));
+    if (m_utf8)
+        return QString::fromStdString(word);
+    const QByteArray bytes = QByteArray::fromStdString(word);
+    QStringDecoder decoder(m_encoding.constData());
+    return decoder.isValid() ? QString(decoder(bytes)) : QString::fromLatin1(bytes);
 }
 
 bool SpellChecker::check(const QString &word) const
 {
-    if (!m_utf8) {
-        // A word the dictionary's 8-bit encoding cannot hold is not in it.
-        for (const QChar c : word) {
-            if (c.unicode() > 0xff)
-                return false;
-        }
-    }
+    // A word the dictionary's 8-bit encoding cannot hold is not in it.
+    if (!m_utf8 && decode(encode(word)) != word)
+        return false;
     return m_hunspell->spell(encode(word));
 }
 

@@ -51,6 +51,7 @@ private:
 
     std::unique_ptr<Hunspell> m_hunspell;
     QString m_name;
+    QByteArray m_encoding;
     bool m_utf8 = true;
 };
 

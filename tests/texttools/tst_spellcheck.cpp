@@ -62,6 +62,7 @@ private slots:
     void agreesWithHunspell();
     void answers();
     void cancelAndDictionaries();
+    void eightBitDictionary();
 };
 
 void tst_SpellCheck::wordsOfThePageOnly()
@@ -191,6 +192,22 @@ void tst_SpellCheck::cancelAndDictionaries()
     QCOMPARE(asked, 0);
     QCOMPARE(doc->edit.Text(), QStringLiteral("X wrold"));
     platform::setPrompts(nullptr);
+}
+
+void tst_SpellCheck::eightBitDictionary()
+{
+    test::TestEnv env;
+    env.write(QStringLiteral("dict/fr_XX.aff"), "SET ISO8859-1\nTRY e\n");
+    env.write(QStringLiteral("dict/fr_XX.dic"), "2\ncaf\xe9\nna\xefve\n");
+    core::WriteSetting(QStringLiteral("General"), QStringLiteral("Standard Dictionary"),
+                       env.path(QStringLiteral("dict/fr_XX.dic")));
+    QString error;
+    auto checker = texttools::SpellChecker::open(texttools::MainDictionary(), error);
+    QVERIFY2(checker, qPrintable(error));
+    QVERIFY(checker->check(QStringLiteral("caf\u00e9")));
+    QVERIFY(!checker->check(QStringLiteral("cafe")));
+    QVERIFY(!checker->check(QStringLiteral("caf\u0119")));   // not in the 8-bit set
+    QVERIFY(checker->suggest(QStringLiteral("cafe")).contains(QStringLiteral("caf\u00e9")));
 }
 
 QTEST_GUILESS_MAIN(tst_SpellCheck)
