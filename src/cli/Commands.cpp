@@ -27,7 +27,7 @@ const std::vector<Subcommand> &subcommands()
          QStringLiteral("Publish SOURCE into TARGET with the [Publishing] settings"), publishCommand},
         {QStringLiteral("convert"), QStringLiteral("IN.txt OUT.html [options]"),
          QStringLiteral("Convert the text file IN.txt into the HTML page OUT.html, with these rules:\n")
-             + texttools::ConvertArgumentsHelp().trimmed(),
+             + texttools::ConvertArgumentsHelp().chopped(1),
          convertCommand},
     };
     return table;
