@@ -15,7 +15,7 @@ what="${1:-run}"
 packages=(
   cmake ninja-build g++ pkg-config
   qt6-base-dev qt6-svg-dev qt6-webengine-dev libqscintilla2-qt6-dev libgl-dev
-  libcurl4-openssl-dev libhunspell-dev hunspell-en-us libgif-dev
+  libcurl4-openssl-dev libhunspell-dev hunspell-en-us hunspell libgif-dev
   xvfb xauth x11-utils openbox xdotool wmctrl python3-pyftpdlib fonts-dejavu-core ccache
 )
 

@@ -11,6 +11,8 @@
 #include "platform/Prompts.h"
 #include "publish/ui/PreviewCommands.h"
 #include "texttools/ui/TextToolCommands.h"
+#include "texttools/ui/ConversionCommands.h"
+
 
 namespace qly::app {
 
@@ -55,6 +57,7 @@ void registerCommands(frmMain &window)
     markup::ui::registerMarkupCommands(window);
     publish::ui::registerPublishCommands(window);
     texttools::ui::registerTextToolCommands(window);
+    texttools::ui::registerConversionCommands(window);
     registerMainCommands(window);
 }
 

@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/Settings.h"
 #include "core/Startup.h"
+#include "texttools/TextToHtmlArguments.h"
 
 #include <QFileInfo>
 
@@ -34,6 +35,10 @@ const std::vector<Subcommand> &subcommands()
          QStringLiteral("Replace every FIND in every file, without regard to case, as the editor's\n"
                         "      Multi-File Replace does; each file is replaced whole or not at all"),
          replaceCommand},
+        {QStringLiteral("convert"), QStringLiteral("IN.txt OUT.html [options]"),
+         QStringLiteral("Convert the text file IN.txt into the HTML page OUT.html, with these rules:\n")
+             + texttools::ConvertArgumentsHelp().chopped(1),
+         convertCommand},
     };
     return table;
 }

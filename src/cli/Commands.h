@@ -35,5 +35,6 @@ QString usage();
 int publishCommand(const QStringList &arguments);
 int grepCommand(const QStringList &arguments);
 int replaceCommand(const QStringList &arguments);
+int convertCommand(const QStringList &arguments);
 
 } // namespace qly::cli

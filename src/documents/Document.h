@@ -72,6 +72,8 @@ QString StripDocSuffix(const QString &caption);
 // Seams for what later parts of the program add to saving and loading.
 struct DocumentHooks {
     std::function<void(const QString &path)> addRecentFile;
+    // A text file dropped on the current document; the text tools fill it.
+    std::function<void(const QString &path)> insertTextFile;
 };
 DocumentHooks &documentHooks();
 

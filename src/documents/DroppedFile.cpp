@@ -1,8 +1,6 @@
 #include "documents/DroppedFile.h"
 
-#include "core/FileIo.h"
 #include "core/Paths.h"
-#include "core/TextCodec.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "markup/Links.h"
@@ -66,17 +64,10 @@ void txtDoc_DropFileOnMe(Document &document, const QString &path)
     case DropKind::Image:
         insert(document, QStringLiteral("<IMG SRC=\"") + DroppedFileLink(document, path) + QStringLiteral("\">"));
         return;
-    case DropKind::Text: {
-        QByteArray bytes;
-        const IoResult read = readWholeFile(path, bytes);
-        if (!read.ok()) {
-            platform::MsgBox(path + QStringLiteral(": ") + read.message, platform::Buttons::Ok,
-                             platform::Icon::Exclamation);
-            return;
-        }
-        insert(document, decodeFile(bytes).text);
+    case DropKind::Text:
+        if (documentHooks().insertTextFile)
+            documentHooks().insertTextFile(path);
         return;
-    }
     case DropKind::Other:
         break;
     }

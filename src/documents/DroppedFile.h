@@ -21,8 +21,8 @@ DropKind DroppedFileKind(const QString &path);
 QString DroppedFileLink(const Document &document, const QString &path);
 
 // Inserts the dropped file at the caret: "<A HREF="link">" with the
-// selection or the file name and "</A>", "<IMG SRC="link">", or the text
-// of a TXT file. For other kinds the user chooses: Yes links to the file,
+// selection or the file name and "</A>", "<IMG SRC="link">", or for a TXT
+// file what documentHooks().insertTextFile makes of it. For other kinds the user chooses: Yes links to the file,
 // No opens it as a document, Cancel does nothing.
 void txtDoc_DropFileOnMe(Document &document, const QString &path);
 

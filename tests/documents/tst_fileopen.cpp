@@ -1,9 +1,11 @@
+#include "core/Paths.h"
 #include "core/Settings.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/DroppedFile.h"
 #include "documents/FileMenu.h"
 #include "documents/RecentFiles.h"
+#include "markup/TagPrimitives.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -181,7 +183,7 @@ void tst_FileOpen::droppedFiles_data()
     QTest::newRow("page") << "sub/next.HTML" << "" << -1 << "<A HREF=\"sub/next.HTML\">next.HTML</A>";
     QTest::newRow("page wraps selection") << "other.shtml" << "click" << -1 << "<A HREF=\"other.shtml\">click</A>";
     QTest::newRow("image") << "../pics/p.jpg" << "" << -1 << "<IMG SRC=\"../pics/p.jpg\">";
-    QTest::newRow("text file") << "notes.txt" << "old" << -1 << "line one\r\nline two";
+    QTest::newRow("text file") << "notes.txt" << "old" << -1 << "text of notes.txt";
     QTest::newRow("other kind, link") << "d.csv" << "" << int(platform::Answer::Yes) << "<A HREF=\"d.csv\">d.csv</A>";
     QTest::newRow("other kind, open") << "d.csv" << "" << int(platform::Answer::No) << "";
 }
@@ -202,7 +204,11 @@ void tst_FileOpen::droppedFiles()
     if (answer >= 0)
         prompts.answer(platform::Answer(answer));
 
+    documents::documentHooks().insertTextFile = [](const QString &path) {
+        markup::InsertMarkup(QStringLiteral("text of ") + core::FileNameOf(path), QString());
+    };
     documents::txtDoc_DropFileOnMe(*doc, dropped);
+    documents::documentHooks().insertTextFile = nullptr;
     QCOMPARE(doc->edit.Text(), u'[' + inserted + u']');
     QCOMPARE(prompts.shown.size(), answer >= 0 ? 1 : 0);
     QCOMPARE(ws.count(), answer == int(platform::Answer::No) ? 2 : 1);
