@@ -208,7 +208,7 @@ QString ConvertText(QStringView text, const ConvertOptions &o)
     return page;
 }
 
-bool LooksBinary(const QByteArray &bytes)
+bool IsMostlyControlBytes(const QByteArray &bytes)
 {
     const qsizetype sample = std::min<qsizetype>(bytes.size(), 64 * 1024);
     qsizetype odd = 0;

@@ -58,6 +58,6 @@ QString ConvertText(QStringView text, const ConvertOptions &options);
 // Refuses bytes that are no text: control bytes (NUL included) beyond tab,
 // line ends, form feed and escape, more than 8 of them and more than 1 %
 // of the first 64 KiB.
-bool LooksBinary(const QByteArray &bytes);
+bool IsMostlyControlBytes(const QByteArray &bytes);
 
 } // namespace qly::texttools

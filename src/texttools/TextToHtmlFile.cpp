@@ -38,7 +38,7 @@ bool readText(const QString &path, DecodedFile &decoded)
         ErrorBox(read.message + QStringLiteral(": ") + path);
         return false;
     }
-    if (LooksBinary(bytes)) {
+    if (IsMostlyControlBytes(bytes)) {
         tellNotText(path);
         return false;
     }

@@ -377,7 +377,7 @@ void tst_MainWindow::secondWindowAndTabsWhileLoading()
     QVERIFY(documents::OpenDocumentFile(file));
     auto *second = dynamic_cast<DocumentWindow *>(m_main->activeDocument());
     QCOMPARE(second->caption(), file + QStringLiteral(":2"));
-    QCOMPARE(second->windowTitle(), file + QStringLiteral(":2"));
+    QCOMPARE(second->windowTitle(), file + QStringLiteral(":2[*]"));   // the change mark shows only when changed
 
     // A tab switch while a document loads does not fill the preview.
     core::gLoadingDocument = true;

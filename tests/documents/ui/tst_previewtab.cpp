@@ -121,6 +121,23 @@ void tst_PreviewTab::relativeImageAndLinkTo()
         view->page()->toPlainText([shown](const QString &t) { *shown = t; });
         return width->toInt() == 120 && shown->contains(QStringLiteral("Edited heading"));
     }()), 30000);
+    // The picture is on the screen: its red stands in the grabbed view.
+    QImage shot;
+    QTRY_VERIFY_WITH_TIMEOUT(([&] {
+        shot = view->grab().toImage();
+        for (int y = 0; y < shot.height(); y += 2) {
+            for (int x = 0; x < shot.width(); x += 2) {
+                const QColor c = shot.pixelColor(x, y);
+                if (c.red() > 200 && c.green() < 60 && c.blue() < 70)
+                    return true;
+            }
+        }
+        return false;
+    }()), 15000);
+    QVERIFY(shot.save(env.path(QStringLiteral("preview.png"))));
+    if (qEnvironmentVariableIsSet("QUILLERY_PREVIEW_SHOT"))
+        shot.save(qEnvironmentVariable("QUILLERY_PREVIEW_SHOT"));
+
     // Loaded, the copy leaves the user's folder; a refresh writes it again.
     QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(page.filePath()), 15000);
     QVERIFY(doc->scoutFile().isEmpty());
@@ -139,23 +156,6 @@ void tst_PreviewTab::relativeImageAndLinkTo()
         view->page()->toPlainText([latest](const QString &t) { *latest = t; });
         return latest->contains(QStringLiteral("Edited heading"));
     }()), 15000);
-
-    // The picture is on the screen: its red stands in the grabbed view.
-    QImage shot;
-    QTRY_VERIFY_WITH_TIMEOUT(([&] {
-        shot = view->grab().toImage();
-        for (int y = 0; y < shot.height(); y += 2) {
-            for (int x = 0; x < shot.width(); x += 2) {
-                const QColor c = shot.pixelColor(x, y);
-                if (c.red() > 200 && c.green() < 60 && c.blue() < 70)
-                    return true;
-            }
-        }
-        return false;
-    }()), 15000);
-    QVERIFY(shot.save(env.path(QStringLiteral("preview.png"))));
-    if (qEnvironmentVariableIsSet("QUILLERY_PREVIEW_SHOT"))
-        shot.save(qEnvironmentVariable("QUILLERY_PREVIEW_SHOT"));
 
     // "Link To:" links the selection to the page in the history box.
     auto *history = doc->findChild<QComboBox *>(QStringLiteral("cmbHistory"));
