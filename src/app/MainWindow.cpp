@@ -243,6 +243,9 @@ void frmMain::LoadToolbars()
         if (!m_toolbars->loadLayout(layout))
             StepFailed(QStringLiteral("The toolbar layout in ") + file + QStringLiteral(" was not read"));
     }
+    // The layout holds the docks too; whether the resource manager shows is
+    // the setting's to say.
+    DrawMainScreen();
     m_toolbars->updateViewChecks();
 }
 

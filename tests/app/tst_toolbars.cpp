@@ -299,6 +299,15 @@ void tst_Toolbars::resourceManagerFollowsItsKeys()
     m_main->commands().action(QStringLiteral("ViewResMan"))->trigger();
     QVERIFY(!m_main->resourceManager().isVisibleTo(m_main.get()));
     QCOMPARE(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Link Checker")), QStringLiteral("No"));
+
+    // A layout saved with the panel hidden does not hide it when the key says "Yes".
+    QVERIFY(m_main->SaveToolbars());
+    core::WriteSetting(QStringLiteral("Display"), QStringLiteral("Link Checker"), QStringLiteral("Yes"));
+    newMain();
+    m_main->DrawMainScreen();
+    m_main->LoadToolbars();
+    QVERIFY(m_main->resourceManager().isVisibleTo(m_main.get()));
+    QVERIFY(m_main->commands().action(QStringLiteral("ViewResMan"))->isChecked());
     QStringList tabs;
     for (int i = 0; i < m_main->resourceManager().tabs()->count(); ++i)
         tabs << m_main->resourceManager().tabs()->tabText(i);
