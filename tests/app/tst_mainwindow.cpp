@@ -11,6 +11,7 @@
 #include "documents/ui/ScintillaEdit.h"
 #include "markup/CharacterCodes.h"
 #include "markup/CharacterCommands.h"
+#include "support/MainWindowHost.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -57,18 +58,12 @@ void tst_MainWindow::init()
 {
     m_env = std::make_unique<test::TestEnv>();
     m_prompts = std::make_unique<test::ScriptedPrompts>();
-    m_main = std::make_unique<app::frmMain>();
-    documents::Workspace::setInstance(m_main.get());
-    m_main->resize(900, 700);
-    m_main->show();
+    m_main = test::showMainWindow();
 }
 
 void tst_MainWindow::cleanup()
 {
-    for (documents::Document *d : m_main->documentList())
-        m_main->unloadDocument(d);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_main.reset();
+    test::closeMainWindow(m_main);
     m_prompts.reset();
     m_env.reset();
 }

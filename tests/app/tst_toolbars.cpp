@@ -14,6 +14,7 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "platform/HTMLEdit.h"
+#include "support/MainWindowHost.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -59,10 +60,7 @@ private:
 
 void tst_Toolbars::newMain()
 {
-    m_main = std::make_unique<frmMain>();
-    documents::Workspace::setInstance(m_main.get());
-    m_main->resize(1000, 700);
-    m_main->show();
+    m_main = test::showMainWindow({1000, 700});
 }
 
 void tst_Toolbars::init()
@@ -74,12 +72,7 @@ void tst_Toolbars::init()
 
 void tst_Toolbars::cleanup()
 {
-    if (m_main) {
-        for (documents::Document *d : m_main->documentList())
-            m_main->unloadDocument(d);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    m_main.reset();
+    test::closeMainWindow(m_main);
     m_prompts.reset();
     m_env.reset();
 }

@@ -10,6 +10,7 @@
 #include "documents/ui/ScintillaEdit.h"
 #include "markup/ui/frmEntities.h"
 #include "platform/ui/QtPrompts.h"
+#include "support/MainWindowHost.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -52,10 +53,7 @@ void tst_WindowPlacement::init()
 {
     m_env = std::make_unique<test::TestEnv>();
     m_prompts = std::make_unique<test::ScriptedPrompts>();
-    m_main = std::make_unique<app::frmMain>();
-    documents::Workspace::setInstance(m_main.get());
-    m_main->resize(900, 700);
-    m_main->show();
+    m_main = test::showMainWindow();
     QVERIFY(QTest::qWaitForWindowExposed(m_main.get()));
 }
 
@@ -63,11 +61,7 @@ void tst_WindowPlacement::cleanup()
 {
     if (auto *list = markup::ui::frmEntities::instance())
         delete list;
-    for (documents::Document *d : m_main->documentList())
-        m_main->unloadDocument(d);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    documents::Workspace::setInstance(nullptr);
-    m_main.reset();
+    test::closeMainWindow(m_main);
     m_prompts.reset();
     m_env.reset();
 }

@@ -10,6 +10,7 @@
 #include "documents/ui/DocumentWindow.h"
 #include "documents/ui/FileLifecycle.h"
 #include "documents/ui/ScintillaEdit.h"
+#include "support/MainWindowHost.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -49,18 +50,12 @@ void tst_FileWindow::init()
 {
     m_env = std::make_unique<test::TestEnv>();
     m_prompts = std::make_unique<test::ScriptedPrompts>();
-    m_window = std::make_unique<app::frmMain>();
-    documents::Workspace::setInstance(m_window.get());
-    m_window->resize(1000, 800);
-    m_window->show();
+    m_window = test::showMainWindow({1000, 800});
 }
 
 void tst_FileWindow::cleanup()
 {
-    for (documents::Document *doc : m_window->documentList())
-        m_window->unloadDocument(doc);
-    QCoreApplication::processEvents();
-    m_window.reset();
+    test::closeMainWindow(m_window);
     documents::documentHooks() = {};
     documents::recentFileView() = nullptr;
     documents::autoSaveTimerSwitch() = nullptr;

@@ -6,6 +6,7 @@
 #include "documents/DocumentList.h"
 #include "documents/ui/DocumentWindow.h"
 #include "platform/HTMLEdit.h"
+#include "support/MainWindowHost.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -42,19 +43,12 @@ void tst_PreviewTab::init()
 {
     m_env = std::make_unique<test::TestEnv>();
     m_prompts = std::make_unique<test::ScriptedPrompts>();
-    m_main = std::make_unique<app::frmMain>();
-    documents::Workspace::setInstance(m_main.get());
-    m_main->resize(900, 700);
-    m_main->show();
+    m_main = test::showMainWindow();
 }
 
 void tst_PreviewTab::cleanup()
 {
-    for (documents::Document *d : m_main->documentList())
-        m_main->unloadDocument(d);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    documents::Workspace::setInstance(nullptr);
-    m_main.reset();
+    test::closeMainWindow(m_main);
     m_prompts.reset();
     m_env.reset();
 }
