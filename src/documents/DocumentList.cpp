@@ -56,13 +56,15 @@ QList<Document *> AllDocuments()
 
 void ApplyDocumentFont(Document &document)
 {
-    QString name = ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Name"));
+    QString name = ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Name")).trimmed();
     if (name.isEmpty())
         name = QStringLiteral("MS Sans Serif");
-    int size = ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Size")).toInt();
-    if (size == 0)
+    int size = ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Size")).trimmed().toInt();
+    if (size <= 0)
         size = 10;
-    document.txtDoc().SetFontAndSize(name, size);
+    platform::HTMLEdit &edit = document.txtDoc();
+    if (edit.FontName() != name || edit.FontSize() != size)
+        edit.SetFontAndSize(name, size);
 }
 
 void ApplyWordWrap(Document &document)
@@ -104,11 +106,8 @@ bool OpenDocumentFile(const QString &argument, const QString &showNameIn)
         return finish(false);
     if (GetFileExt(argument).compare(QLatin1String("PRJ"), Qt::CaseInsensitive) == 0) {
         // Website projects have no window of their own yet.
-        EndWait();
-        platform::MsgBox(argument + QStringLiteral(" is a website project. This version of Quillery cannot open "
-                                                   "website projects yet, so it was not opened."),
-                         platform::Buttons::Ok, platform::Icon::Exclamation);
-        BeginWait();
+        ErrorBox(argument + QStringLiteral(" is a website project. This version of Quillery cannot open "
+                                           "website projects yet, so it was not opened."));
         return finish(false);
     }
 

@@ -15,18 +15,6 @@ namespace qly::documents {
 
 namespace {
 
-void applyFont(platform::HTMLEdit &edit)
-{
-    QString name = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Name")).trimmed();
-    if (name.isEmpty())
-        name = QStringLiteral("MS Sans Serif");
-    int size = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Font Size")).trimmed().toInt();
-    if (size <= 0)
-        size = 10;
-    if (edit.FontName() != name || edit.FontSize() != size)
-        edit.SetFontAndSize(name, size);
-}
-
 void applyColours(platform::HTMLEdit &edit, const platform::ColorTable &table, int mode)
 {
     if (!core::gColorHTML) {
@@ -58,7 +46,7 @@ void ApplyOptionsToDocuments()
                          : platform::ColorEntireTags;
     for (Document *doc : AllDocuments()) {
         platform::HTMLEdit &edit = doc->txtDoc();
-        applyFont(edit);
+        ApplyDocumentFont(*doc);
         ApplyWordWrap(*doc);
         applyColours(edit, table, mode);
     }

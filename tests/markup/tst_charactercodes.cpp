@@ -166,13 +166,11 @@ void tst_CharacterCodes::missingFileLeavesEmptyTable()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     useTable({{233, QStringLiteral("&eacute;")}});
     markup::LoadCharacterCodes();
     QCOMPARE(prompts.texts(), QStringList{QStringLiteral("File not found.: ") + markup::characterFilePath()});
     QCOMPARE(markup::CharacterCodes().size(), size_t(1));
     QCOMPARE(markup::TranslateCharacters(QString::fromUtf8("\xc3\xa9\xc3\xa9")), QString::fromUtf8("\xc3\xa9\xc3\xa9"));
-    platform::setPrompts(nullptr);
 }
 
 void tst_CharacterCodes::typingTranslatesAndSwallowsKey()
@@ -207,7 +205,6 @@ void tst_CharacterCodes::wholeDocumentKeepsCaretNumber()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     useTable({{233, QStringLiteral("&eacute;")}});
     test::FakeWorkspace workspace;
     const QString text = QString::fromUtf8("\xc3\xa9t\xc3\xa9 caf\xc3\xa9");
@@ -228,7 +225,6 @@ void tst_CharacterCodes::wholeDocumentKeepsCaretNumber()
     markup::EditTranslate_Click();
     QCOMPARE(doc->edit.Text(), QString::fromUtf8("&eacute;t&eacute; caf\xc3\xa9"));
     QCOMPARE(prompts.shown.size(), 2);
-    platform::setPrompts(nullptr);
 }
 
 void tst_CharacterCodes::listLineGivesHtml_data()

@@ -118,7 +118,6 @@ void tst_Links::absoluteToRelativeWholeDocument()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace workspace;
     test::FakeDocument *doc = workspace.addDocument(QStringLiteral("Untitled-1"), QStringLiteral("x"));
     markup::EditAbsToRel_Click();
@@ -138,14 +137,12 @@ void tst_Links::absoluteToRelativeWholeDocument()
                                    .arg(dir));
     doc->edit.Undo();
     QCOMPARE(doc->edit.Text(), text);
-    platform::setPrompts(nullptr);
 }
 
 void tst_Links::relativeToAbsolute()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace workspace;
     const QString page = env.write(QStringLiteral("w/x/d.html"), "");
     test::FakeDocument *doc = workspace.addDocument(page, QStringLiteral("<A HREF=../a.htm> <A HREF=C|/a.htm>"), page);
@@ -171,7 +168,6 @@ void tst_Links::relativeToAbsolute()
         markup::EditRelToAbs_Click();
         QCOMPARE(doc->edit.Text(), expected);
     }
-    platform::setPrompts(nullptr);
 }
 
 void tst_Links::removeMarkup_data()
@@ -218,7 +214,6 @@ void tst_Links::duplicateLinks()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace workspace;
     test::FakeDocument *doc = workspace.addDocument(
         QStringLiteral("Untitled-1"),
@@ -249,7 +244,6 @@ void tst_Links::duplicateLinks()
     doc->edit.setText(QStringLiteral("<a href=a>1</a>"));
     markup::ToolsFindDup_Click(answer(markup::DuplicateChoice::Next));
     QCOMPARE(prompts.texts().last(), QStringLiteral("No duplicate links were found in this document."));
-    platform::setPrompts(nullptr);
 }
 
 QTEST_GUILESS_MAIN(tst_Links)

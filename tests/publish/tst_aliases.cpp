@@ -134,7 +134,6 @@ void tst_Aliases::confirmAsksEachHit()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     QString text = QStringLiteral("a a a a");
     prompts.answer(platform::Answer::Yes);
     prompts.answer(platform::Answer::No);
@@ -145,7 +144,6 @@ void tst_Aliases::confirmAsksEachHit()
     QCOMPARE(prompts.shown.first().title, QStringLiteral("Quillery 4.01"));
     QCOMPARE(prompts.shown.first().text, QStringLiteral("Replace this text?"));
     QVERIFY(!prompts.busyNow);
-    platform::setPrompts(nullptr);
 }
 
 QTEST_GUILESS_MAIN(tst_Aliases)

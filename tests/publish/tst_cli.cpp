@@ -40,7 +40,6 @@ void tst_Cli::publishesLikeTheEditor()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     // The same program data as the command-line program beside it.
     core::setProgramDirectory(QStringLiteral(PROGRAM_DATA_DIR));
     markup::LoadCharacterCodes();
@@ -62,7 +61,6 @@ void tst_Cli::publishesLikeTheEditor()
     QVERIFY(editor.contains("<IMG SRC=\"img/a.gif\"> C:\\dir\n"));
     QCOMPARE(env.read(QStringLiteral("cli.html")), editor);
     QVERIFY(prompts.shown.isEmpty());
-    platform::setPrompts(nullptr);
 }
 
 void tst_Cli::missingSourceFails()

@@ -57,7 +57,6 @@ void tst_Publish::goldenCases()
     QFETCH(QString, dir);
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     env.write(QStringLiteral("quillery.ini"), readFile(dir + QStringLiteral("/settings.ini")));
     const QString chars = QFile::exists(dir + QStringLiteral("/character.inf"))
         ? dir + QStringLiteral("/character.inf")
@@ -71,7 +70,6 @@ void tst_Publish::goldenCases()
     QVERIFY(publish::PublishFile(input, output));
     QCOMPARE(env.read(output), readFile(dir + QStringLiteral("/expected.html")));
     QVERIFY(prompts.shown.isEmpty());
-    platform::setPrompts(nullptr);
 }
 
 void tst_Publish::convertSlashes_data()
@@ -112,7 +110,6 @@ void tst_Publish::backupOfTargetFollowsReverseRule()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     const QString source = env.write(QStringLiteral("page.html"), "new");
     const QString target = env.write(QStringLiteral("site/page.html"), "old");
     const QString backup = env.path(QStringLiteral("site/page.bak"));
@@ -129,14 +126,12 @@ void tst_Publish::backupOfTargetFollowsReverseRule()
     QVERIFY(!QFile::exists(backup));
     QCOMPARE(env.read(target), QByteArray("new"));
     QVERIFY(prompts.shown.isEmpty());
-    platform::setPrompts(nullptr);
 }
 
 void tst_Publish::untitledDocumentWithoutPublishDirectory()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace workspace;
     workspace.addDocument(QStringLiteral("Untitled-1"), QStringLiteral("text"));
     const QString target = env.path(QStringLiteral("out.html"));
@@ -146,14 +141,12 @@ void tst_Publish::untitledDocumentWithoutPublishDirectory()
     QCOMPARE(prompts.shown.first().title, QStringLiteral("Cannot Publish File"));
     QCOMPARE(prompts.shown.first().icon, platform::Icon::Information);
     QVERIFY(QDir(env.dir()).entryList({QStringLiteral("~qly*")}).isEmpty());
-    platform::setPrompts(nullptr);
 }
 
 void tst_Publish::currentDocumentWithUnsavedChanges()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     QDir(env.dir()).mkpath(QStringLiteral("pub"));
     core::WriteSetting(QStringLiteral("File Locations"), QStringLiteral("Publish"), env.path(QStringLiteral("pub")));
     core::WriteSetting(QStringLiteral("Publishing"), QStringLiteral("Publish as UNIX Text"), QStringLiteral("yes"));
@@ -167,19 +160,16 @@ void tst_Publish::currentDocumentWithUnsavedChanges()
     QCOMPARE(env.read(file), QByteArray("on disk\r\n"));
     QVERIFY(doc->edit.Dirty());
     QCOMPARE(QDir(env.path(QStringLiteral("pub"))).entryList({QStringLiteral("~qly*.tmp")}).size(), 1);
-    platform::setPrompts(nullptr);
 }
 
 void tst_Publish::missingSourceFails()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     const QString missing = env.path(QStringLiteral("nothing.html"));
     QVERIFY(!publish::PublishFile(missing, env.path(QStringLiteral("out.html"))));
     QVERIFY(prompts.texts().contains(QStringLiteral("File not found.: ") + missing));
     QVERIFY(prompts.texts().contains(QStringLiteral("Couldn't read ") + missing));
-    platform::setPrompts(nullptr);
 }
 
 void tst_Publish::missingAliasFileIsNoFailure()

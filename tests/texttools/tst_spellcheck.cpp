@@ -104,7 +104,6 @@ void tst_SpellCheck::answers()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     const QString customPath = env.write(QStringLiteral("words.dic"), "Quillery\n");
     core::WriteSetting(QStringLiteral("General"), QStringLiteral("Custom Dictionary"), customPath);
     test::FakeWorkspace ws;
@@ -139,14 +138,12 @@ void tst_SpellCheck::answers()
     doc->edit.Undo();
     QCOMPARE(doc->edit.Text(), text);
     QVERIFY(prompts.shown.isEmpty());
-    platform::setPrompts(nullptr);
 }
 
 void tst_SpellCheck::cancelAndDictionaries()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace ws;
     const QString text = QStringLiteral("teh wrold");
     test::FakeDocument *doc = ws.addDocument(QStringLiteral("a.html"), text);
@@ -191,7 +188,6 @@ void tst_SpellCheck::cancelAndDictionaries()
     QVERIFY(prompts.shown.last().text.contains(QStringLiteral("is damaged")));
     QCOMPARE(asked, 0);
     QCOMPARE(doc->edit.Text(), QStringLiteral("X wrold"));
-    platform::setPrompts(nullptr);
 }
 
 void tst_SpellCheck::eightBitDictionary()

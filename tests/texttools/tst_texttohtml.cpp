@@ -108,7 +108,6 @@ void tst_TextToHtml::badInput()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
 
     // A binary file is refused by name and an older page stays as it was.
     QByteArray binary(4096, '\0');
@@ -137,14 +136,12 @@ void tst_TextToHtml::badInput()
     QCOMPARE(page, kHead.toLatin1() + "<H1>Head</H1><BR>\r\n<P>\r\n" + line + "<BR>\r\n<P>\r\n<UL>\r\n<LI> item<BR>\r\n</UL>\r\n"
                        + kTail.toLatin1());
     QCOMPARE(prompts.shown.size(), 1);
-    platform::setPrompts(nullptr);
 }
 
 void tst_TextToHtml::dialogOnDocument()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace ws;
     const QString original = QStringLiteral("Title\r\n\r\n* one\r\n* two\r\ntext");
     test::FakeDocument *doc = ws.addDocument(QStringLiteral("notes.txt"), original);
@@ -188,14 +185,12 @@ void tst_TextToHtml::dialogOnDocument()
     doc->edit.Undo();
     QCOMPARE(doc->edit.Text(), original);
     QVERIFY(prompts.shown.isEmpty());
-    platform::setPrompts(nullptr);
 }
 
 void tst_TextToHtml::dialogChecksAndFiles()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace ws;
     ws.addDocument(QStringLiteral("a.txt"), QStringLiteral("x"));
     TextToHtmlModel model;
@@ -233,14 +228,12 @@ void tst_TextToHtml::dialogChecksAndFiles()
     QCOMPARE(env.read(QStringLiteral("in/two.htm")), (kHead + QStringLiteral("2\r\n") + kTail).toLatin1());
     QVERIFY(!QFile::exists(env.path(QStringLiteral("in/skip.htm"))));
     QCOMPARE(ws.document(0)->edit.Text(), QStringLiteral("x"));
-    platform::setPrompts(nullptr);
 }
 
 void tst_TextToHtml::insertTextFile()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     test::FakeWorkspace ws;
     test::FakeDocument *doc = ws.addDocument(QStringLiteral("p.html"), QStringLiteral("[]"),
                                              env.path(QStringLiteral("p.html")));
@@ -264,7 +257,6 @@ void tst_TextToHtml::insertTextFile()
     QCOMPARE(prompts.texts().last(), QStringLiteral("File not found.: ") + env.path(QStringLiteral("gone.txt")));
     QCOMPARE(doc->edit.Text(), QStringLiteral("[ab\r\nc]"));
     documents::documentHooks().insertTextFile = nullptr;
-    platform::setPrompts(nullptr);
 }
 
 QTEST_GUILESS_MAIN(tst_TextToHtml)

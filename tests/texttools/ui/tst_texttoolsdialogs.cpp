@@ -58,7 +58,6 @@ void tst_TextToolsDialogs::convertDialog()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     app::frmMain w;
     platform::HTMLEdit *edit = openDocument(w, QStringLiteral("Notes\r\n\r\n- one\r\n- two"));
     QVERIFY(w.commands().run(QStringLiteral("ToolsConvertToHTML")));
@@ -85,14 +84,12 @@ void tst_TextToolsDialogs::convertDialog()
     QVERIFY(w.commands().run(QStringLiteral("EditUndo")));
     QCOMPARE(edit->Text(), QStringLiteral("Notes\r\n\r\n- one\r\n- two"));
     documents::Workspace::setInstance(nullptr);
-    platform::setPrompts(nullptr);
 }
 
 void tst_TextToolsDialogs::spellerDialog()
 {
     test::TestEnv env;
     test::ScriptedPrompts prompts;
-    platform::setPrompts(&prompts);
     app::frmMain w;
     platform::HTMLEdit *edit = openDocument(w, QStringLiteral("<A HREF=\"teh.html\">teh</A> wrold teh"));
     // Unknown words of the text are underlined as they stand, those in tags not.
@@ -125,7 +122,6 @@ void tst_TextToolsDialogs::spellerDialog()
     QCOMPARE(shownWords, QStringList({QStringLiteral("teh"), QStringLiteral("wrold")}));
     QCOMPARE(edit->Text(), QStringLiteral("<A HREF=\"teh.html\">the</A> wrold the"));
     documents::Workspace::setInstance(nullptr);
-    platform::setPrompts(nullptr);
 }
 
 QTEST_MAIN(tst_TextToolsDialogs)
