@@ -2,16 +2,26 @@
 
 #include "app/MainWindow.h"
 #include "app/frmOptions.h"
+#include "automation/ui/AutomationCommands.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
 #include "core/ui/Help.h"
 #include "core/ui/frmMe.h"
 #include "documents/ui/DocumentCommands.h"
+#include "generators/ui/TableFrameCommands.h"
+#include "generators/ui/MapStyleCommands.h"
+#include "images/ui/ImageCommands.h"
+#include "generators/ui/FormAndScriptCommands.h"
 #include "markup/ui/MarkupCommands.h"
+#include "markup/ui/TagCommands.h"
 #include "platform/Prompts.h"
 #include "publish/ui/PreviewCommands.h"
+#include "tagdialogs/ui/TagDialogCommands.h"
 #include "texttools/ui/TextToolCommands.h"
 #include "texttools/ui/ConversionCommands.h"
+#include "websites/ui/WebsiteCommands.h"
+#include "app/ResourceManager.h"
+#include "transfer/ui/TransferCommands.h"
 
 
 namespace qly::app {
@@ -33,13 +43,9 @@ void registerMainCommands(frmMain &w)
     t.bind(N("EditBrowsers"), [&w] { ShowOptions(w, core::OptionsTab::ExternalBrowsers); });
 
     t.bind(N("HelpContents"), [] { core::ui::OpenHelp(); });
-    t.bind(N("HelpSearch"), [] { core::ui::OpenHelp(); });
+    t.bind(N("HelpSearch"), [] { core::ui::OpenHelp(QStringLiteral("search")); });
     t.bind(N("HelpAbout"), [&w] { core::ui::frmMe(&w); });
 
-    // No website is open before the website manager is built, so none is selected.
-    t.bind(N("FileAddFiles"), [] {
-        platform::MsgBox(QStringLiteral("Please select a Website before adding files to it."));
-    });
     t.bind(N("mnuUploadProject"), [] {
         platform::MsgBox(QStringLiteral("Please select a Website before uploading it."));
     });
@@ -55,10 +61,22 @@ void registerCommands(frmMain &window)
 
     documents::ui::registerDocumentCommands(window);
     markup::ui::registerMarkupCommands(window);
+    markup::ui::registerTagCommands(window);
     publish::ui::registerPublishCommands(window);
     texttools::ui::registerTextToolCommands(window);
     texttools::ui::registerConversionCommands(window);
+    automation::ui::registerAutomationCommands(window);
+    generators::ui::registerTableFrameCommands(window);
+    generators::ui::registerMapAndStyleCommands(window);
+    images::ui::registerImageCommands(window);
+    tagdialogs::ui::registerTagDialogCommands(window);
+    generators::ui::registerFormAndScriptCommands(window);
+    transfer::ui::registerTransferCommands(window);
     registerMainCommands(window);
+    const websites::ui::WebsiteViews views = websites::ui::registerWebsiteCommands(window);
+    window.resourceManager().setTabContent(QStringLiteral("Website"), views.website);
+    if (views.bookmarks)
+        window.resourceManager().setTabContent(QStringLiteral("Bookmarks"), views.bookmarks);
 }
 
 } // namespace qly::app

@@ -44,6 +44,7 @@ void loadMainWindow(frmMain &w)
     gMainReady = true;
     w.startupSteps().run(StartupStep::MainWindowLoaded);
     w.DrawMainScreen();
+    w.startupSteps().run(StartupStep::PlugIns);
 }
 
 // Files that other copies handed over: opened at once once start-up is
@@ -151,6 +152,7 @@ int Main(int argc, char **argv)
     gStartupPassed = true;
     if (closed())
         return 0;
+    window.startupSteps().run(StartupStep::TagTree);
     BeginWait();
     ReadGlobalEditingFlags();
     window.statusPanels().showColoringMode(ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Quick Color")));
@@ -163,6 +165,7 @@ int Main(int argc, char **argv)
     ShowStatus(QStringLiteral("Setting up Toolbars"));
     window.LoadToolbars();
     window.startupSteps().run(StartupStep::RecentFiles);
+    window.startupSteps().run(StartupStep::StyleList);
     window.setWindowTitle(versionCaption());
     if (ReadSettingFlag(QStringLiteral("Display"), QStringLiteral("Chars List")))
         window.startupSteps().run(StartupStep::CharsList);
@@ -187,6 +190,7 @@ int Main(int argc, char **argv)
     window.bringToFront();
     window.focusDocument();
     handed.startupDone();
+    window.startupSteps().run(StartupStep::Automation);
 
     // SIGTERM, SIGHUP and the session's end close the window the ordinary way.
     TermSignal term([&window] { window.close(); });

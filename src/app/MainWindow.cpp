@@ -52,10 +52,11 @@ frmMain::frmMain(QWidget *parent)
     setCentralWidget(m_mdi);
     m_panels = new StatusPanels(statusBar());
     connect(m_mdi, &QMdiArea::subWindowActivated, this, &frmMain::onSubWindowActivated);
-    registerCommands(*this);
-    m_toolbars = new Toolbars(*this, *m_commands);
+    // The resource manager comes first: the parts fill its tabs as they register.
     m_picDocs = new ResourceManager(this);
     addDockWidget(Qt::LeftDockWidgetArea, m_picDocs);
+    registerCommands(*this);
+    m_toolbars = new Toolbars(*this, *m_commands);
     m_picDocs->InitializeFileList();
     connect(m_picDocs, &ResourceManager::fileActivated, this, [](const QString &path) {
         documents::OpenDocumentFile(path);
@@ -259,6 +260,11 @@ bool frmMain::SaveToolbars()
     ShowStatus(QStringLiteral("The toolbar layout could not be saved in ") + toolbarFile() + QStringLiteral(": ")
                + saved.message);
     return false;
+}
+
+void frmMain::setResourceTab(const QString &tab, QWidget *content)
+{
+    m_picDocs->setTabContent(tab, content);
 }
 
 void frmMain::DrawMainScreen()

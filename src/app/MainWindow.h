@@ -45,6 +45,7 @@ public:
     core::ui::StatusPanels &statusPanels() const override { return *m_panels; }
     QMdiArea *mdiArea() const override { return m_mdi; }
     QMenu *popupMenu() const override { return m_mnuPopupHd; }
+    void setResourceTab(const QString &tab, QWidget *content) override;
     core::ui::Toolbars &toolbars() const { return *m_toolbars; }
     ResourceManager &resourceManager() const { return *m_picDocs; }
 

@@ -68,6 +68,9 @@ QWidget *ResourceManager::buildFilesTab()
     for (int column = 1; column < m_files->columnCount(); ++column)
         m_adcFiles->hideColumn(column);
     m_adcFiles->header()->hide();
+    // A file dragged onto a document becomes a link or an image tag there.
+    m_adcFiles->setDragEnabled(true);
+    m_adcFiles->setDragDropMode(QAbstractItemView::DragOnly);
     connect(m_adcFiles, &QTreeView::doubleClicked, this, [this](const QModelIndex &index) {
         if (!m_files->isDir(index))
             emit fileActivated(m_files->filePath(index));

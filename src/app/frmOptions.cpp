@@ -9,7 +9,6 @@
 #include "documents/ui/EditColors.h"
 #include "platform/HTMLEdit.h"
 
-#include <Qsci/qscilexerhtml.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -37,17 +36,7 @@ namespace {
 // The colour an unset slot has in the edit buffer.
 QColor bufferDefaultColour(int slot)
 {
-    static const std::array<int, 12> styles = {
-        QsciLexerHTML::Tag, QsciLexerHTML::Attribute, QsciLexerHTML::OtherInTag,
-        QsciLexerHTML::HTMLDoubleQuotedString, QsciLexerHTML::Default, QsciLexerHTML::JavaScriptSymbol,
-        QsciLexerHTML::JavaScriptDoubleQuotedString, QsciLexerHTML::JavaScriptKeyword,
-        QsciLexerHTML::JavaScriptWord, QsciLexerHTML::Default, QsciLexerHTML::Default, QsciLexerHTML::UnknownTag,
-    };
-    QsciLexerHTML lexer;
-    platform::ColorTable unset;
-    unset.fill(-1);
-    documents::ui::applyEditColors(lexer, unset, false);
-    return lexer.color(styles[size_t(slot)]);
+    return documents::ui::defaultSlotColor(slot);
 }
 
 QColor storedColour(int v)

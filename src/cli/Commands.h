@@ -31,10 +31,18 @@ int runCommandLine(const QStringList &arguments);
 // The help text.
 QString usage();
 
+// Writes the manual page of "quillery" or "quillery-cli" (roff) to standard
+// output; both come from here, the commands from the same table as --help.
+int printManPage(const QString &program);
+
 // Subcommands, one file each.
 int publishCommand(const QStringList &arguments);
-int grepCommand(const QStringList &arguments);
+int findCommand(const QStringList &arguments);
 int replaceCommand(const QStringList &arguments);
 int convertCommand(const QStringList &arguments);
+int checkCommand(const QStringList &arguments);
+int appCommand(const QStringList &arguments);
+int uploadCommand(const QStringList &arguments);
+int downloadCommand(const QStringList &arguments);
 
 } // namespace qly::cli

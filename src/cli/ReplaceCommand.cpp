@@ -2,6 +2,8 @@
 
 #include "texttools/GrepModel.h"
 
+#include <QFile>
+
 #include <cstdio>
 
 namespace qly::cli {
@@ -20,8 +22,36 @@ public:
     }
 };
 
-// Reads the options shared by "grep" and "replace"; false on a usage error.
-bool parse(const QStringList &arguments, bool replacing, texttools::GrepModel &m)
+// Terms from a file, one a line; when replacing, the find text and its
+// replacement are parted by a tab. Empty lines are skipped. False when the
+// file cannot be read.
+bool readTermsFile(const QString &path, bool replacing, QList<texttools::Term> &terms)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "quillery-cli: cannot read the terms file %s\n", path.toLocal8Bit().constData());
+        return false;
+    }
+    const QStringList lines = QString::fromUtf8(f.readAll()).split(QLatin1Char('\n'));
+    for (QString line : lines) {
+        if (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
+        if (line.isEmpty())
+            continue;
+        texttools::Term t;
+        const qsizetype tab = replacing ? line.indexOf(QLatin1Char('\t')) : -1;
+        t.find = tab < 0 ? line : line.left(tab);
+        if (tab >= 0)
+            t.replacement = line.mid(tab + 1);
+        terms << t;
+    }
+    return true;
+}
+
+enum class Parsed { Ok, Usage, Error };
+
+// Reads the options shared by "find" and "replace".
+Parsed parse(const QStringList &arguments, bool replacing, texttools::GrepModel &m)
 {
     using namespace texttools;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
@@ -32,6 +62,9 @@ bool parse(const QStringList &arguments, bool replacing, texttools::GrepModel &m
             if (replacing)
                 t.replacement = arguments.at(++i);
             m.terms << t;
+        } else if (a == QLatin1String("-f") && left >= 1) {
+            if (!readTermsFile(arguments.at(++i), replacing, m.terms))
+                return Parsed::Error;
         } else if (replacing && a == QLatin1String("--backup")) {
             m.options.backup = true;
         } else if (replacing && a == QLatin1String("--dos-to-unix")) {
@@ -45,43 +78,56 @@ bool parse(const QStringList &arguments, bool replacing, texttools::GrepModel &m
         } else if (replacing && a == QLatin1String("--mixed-case")) {
             m.options.nameCase = NameCase::Mixed;
         } else if (a.startsWith(QLatin1String("-")) && a.size() > 1) {
-            return false;
+            return Parsed::Usage;
         } else {
             m.entries << a;
         }
     }
-    return !m.entries.isEmpty();
+    return m.entries.isEmpty() ? Parsed::Usage : Parsed::Ok;
 }
 
 } // namespace
 
-// grep -e TERM... ENTRY...: the files that hold a term, without regard to case.
-int grepCommand(const QStringList &arguments)
+// find [-f TERMS] -e TERM... ENTRY...: the files that hold a term, without
+// regard to case, one a line; the count on standard error. 0 with hits, 1
+// with none, 2 when a file could not be read or the command was wrong.
+int findCommand(const QStringList &arguments)
 {
     texttools::GrepModel m;
-    if (!parse(arguments, false, m)) {
-        std::fputs("Usage: quillery-cli grep -e TERM [-e TERM]... FILE|PATTERN...\n", stderr);
+    const Parsed parsed = parse(arguments, false, m);
+    if (parsed != Parsed::Ok) {
+        if (parsed == Parsed::Usage)
+            std::fputs("Usage: quillery-cli find [-f TERMS-FILE] [-e TERM]... FILE|PATTERN...\n", stderr);
         return ExitUsage;
     }
     PrintFound found;
     const texttools::GrepSummary s = m.FindAndPresentFiles(found);
+    std::fprintf(stderr, "%d files found\n", s.files);
+    if (!s.failures.isEmpty() || !m.hasTerms())
+        return ExitUsage;
     return s.files > 0 ? ExitOk : ExitFailed;
 }
 
-// replace [options] -e FIND REPLACEMENT... ENTRY...: the multi-file replacement.
+// replace [options] [-f TERMS] -e FIND REPLACEMENT... ENTRY...: the
+// multi-file replacement. 0 when something was replaced or converted, 1 when
+// nothing was, 2 when a file failed or the command was wrong.
 int replaceCommand(const QStringList &arguments)
 {
     texttools::GrepModel m;
-    if (!parse(arguments, true, m)) {
-        std::fputs("Usage: quillery-cli replace [--backup] [--dos-to-unix|--unix-to-dos] [--htm-to-html]\n"
-                   "       [--lower-case|--mixed-case] -e FIND REPLACEMENT [-e ...] FILE|PATTERN...\n",
-                   stderr);
+    const Parsed parsed = parse(arguments, true, m);
+    if (parsed != Parsed::Ok) {
+        if (parsed == Parsed::Usage)
+            std::fputs("Usage: quillery-cli replace [--backup] [--dos-to-unix|--unix-to-dos] [--htm-to-html]\n"
+                       "       [--lower-case|--mixed-case] [-f TERMS-FILE] [-e FIND REPLACEMENT]... FILE|PATTERN...\n",
+                       stderr);
         return ExitUsage;
     }
     texttools::GrepProgress quiet;
     const texttools::GrepSummary s = m.NewReplace(quiet);
-    const bool work = m.hasTerms() || m.options.conversion != texttools::LineEndConversion::None;
-    return work && s.failures.isEmpty() && !s.cancelled ? ExitOk : ExitFailed;
+    const bool conversion = m.options.conversion != texttools::LineEndConversion::None;
+    if ((!m.hasTerms() && !conversion) || !s.failures.isEmpty() || s.cancelled)
+        return ExitUsage;
+    return s.replacements > 0 || (conversion && s.files > 0) ? ExitOk : ExitFailed;
 }
 
 } // namespace qly::cli

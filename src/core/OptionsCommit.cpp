@@ -37,6 +37,8 @@ void OptionsModel::commit()
     saveGeneral();
     saveLocations();
     saveEditing();
+    if (optionsHooks().tagTreeOptions)
+        optionsHooks().tagTreeOptions();
     saveDisplay();
     saveColours();
     saveBrowsers();

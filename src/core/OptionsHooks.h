@@ -14,6 +14,8 @@ struct OptionsHooks {
     // Browsers are looked for on this machine and written to [Browsers];
     // gives how many were found.
     std::function<int()> findBrowsers;
+    // The tag tree takes [Editing] "Lower Case Tags" again.
+    std::function<void()> tagTreeOptions;
 };
 OptionsHooks &optionsHooks();
 

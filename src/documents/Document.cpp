@@ -93,6 +93,9 @@ bool Document::Save()
             EndWait();
             reportSaveFailure(path, result);
             ok = false;
+        } else if (bRemote && documentHooks().sendRemote && !documentHooks().sendRemote(*this)) {
+            // Written here but not on the server: still a change to save.
+            ok = false;
         } else {
             if (documentHooks().addRecentFile)
                 documentHooks().addRecentFile(path);
@@ -167,6 +170,11 @@ bool Document::NamedSaveAs(const QString &chosen)
         return false;
     }
     return true;
+}
+
+bool Document::SaveRemote()
+{
+    return documentHooks().saveRemote && documentHooks().saveRemote(*this);
 }
 
 IoResult Document::RawSaveFile(const QString &path)

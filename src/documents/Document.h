@@ -59,6 +59,9 @@ public:
     bool NamedSaveAs(const QString &path);
     // Writes the buffer to `path` and changes nothing else.
     core::IoResult RawSaveFile(const QString &path);
+    // Saves the document to the FTP server it came from, or to the
+    // directory the shared session is in.
+    bool SaveRemote();
     void ShowCaptionAndTab(const QString &name, bool flag = false);
 
     // The caption less a window suffix ":n"; see StripDocSuffix.
@@ -74,6 +77,19 @@ struct DocumentHooks {
     std::function<void(const QString &path)> addRecentFile;
     // A text file dropped on the current document; the text tools fill it.
     std::function<void(const QString &path)> insertTextFile;
+    // A website project (".prj") to open; the websites fill it.
+    std::function<bool(const QString &path)> openWebsite;
+    // The channel pages of the New Document dialog (kinds 4 NetCaster and
+    // 5 Active Channel): asks for the channel's values and returns what fills
+    // the template's placeholders; an empty function when the user cancelled.
+    // The generators fill it; unset, the placeholders stay.
+    using PageFiller = std::function<QString(const QString &templateText)>;
+    std::function<PageFiller(int kind)> askChannelPage;
+    // A remote document's file has been written: send it to its server.
+    // False keeps the document changed (and its local copy in place).
+    std::function<bool(Document &document)> sendRemote;
+    // Document::SaveRemote; the transfer part fills both.
+    std::function<bool(Document &document)> saveRemote;
 };
 DocumentHooks &documentHooks();
 

@@ -105,7 +105,8 @@ bool OpenDocumentFile(const QString &argument, const QString &showNameIn)
     if (argument.isEmpty())
         return finish(false);
     if (GetFileExt(argument).compare(QLatin1String("PRJ"), Qt::CaseInsensitive) == 0) {
-        // Website projects have no window of their own yet.
+        if (documentHooks().openWebsite)
+            return finish(documentHooks().openWebsite(argument));
         ErrorBox(argument + QStringLiteral(" is a website project. This version of Quillery cannot open "
                                            "website projects yet, so it was not opened."));
         return finish(false);
@@ -241,6 +242,16 @@ bool DocumentCloseQuery(Document &document)
             QFile::remove(document.LocalFileName);
     }
     return false;
+}
+
+bool CloseAllDocuments()
+{
+    if (!SaveAllDocuments(true))
+        return false;
+    Workspace *ws = Workspace::instance();
+    for (Document *d : AllDocuments())
+        ws->unloadDocument(d);
+    return true;
 }
 
 } // namespace qly::documents

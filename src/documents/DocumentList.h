@@ -30,6 +30,10 @@ QString SessionEntry(const Document &document);
 // or a save failed.
 bool SaveAllDocuments(bool ask, bool collect = false, QString *names = nullptr);
 
+// Window > Close All: saves the changed documents (asking first), then
+// closes every document window. False when the user cancelled.
+bool CloseAllDocuments();
+
 // The question before a document window closes; true to keep it open.
 bool DocumentCloseQuery(Document &document);
 

@@ -38,18 +38,23 @@ QString activeDocumentFolder()
 
 } // namespace
 
-void ApplyOptionsToDocuments()
+void ApplyColorOptions()
 {
     const platform::ColorTable table = ColorTableFromSettings();
     const int mode = core::ReadSettingFlag(QStringLiteral("Editing"), QStringLiteral("Quick Color"))
                          ? platform::ColorTagSyntax
                          : platform::ColorEntireTags;
+    for (Document *doc : AllDocuments())
+        applyColours(doc->txtDoc(), table, mode);
+}
+
+void ApplyOptionsToDocuments()
+{
     for (Document *doc : AllDocuments()) {
-        platform::HTMLEdit &edit = doc->txtDoc();
         ApplyDocumentFont(*doc);
         ApplyWordWrap(*doc);
-        applyColours(edit, table, mode);
     }
+    ApplyColorOptions();
     if (Document *doc = Workspace::CurrentDocument())
         doc->txtDoc().SetFocus();
 }

@@ -11,4 +11,8 @@ void InstallDocumentOptionHooks();
 // Every open document takes the stored editing settings.
 void ApplyOptionsToDocuments();
 
+// Every open document takes the stored colours and is coloured again; with
+// [Editing] "Color HTML" off, colouring stops in each.
+void ApplyColorOptions();
+
 } // namespace qly::documents

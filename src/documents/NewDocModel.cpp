@@ -1,7 +1,9 @@
 #include "documents/NewDocModel.h"
 
 #include "core/Paths.h"
+#include "documents/Document.h"
 #include "documents/NewDocument.h"
+#include "platform/HTMLEdit.h"
 #include "platform/Prompts.h"
 
 #include <QDir>
@@ -61,6 +63,23 @@ Document *NewDocModel::createFromTemplate(const QString &fileName, const QString
     return NewDocument(path);
 }
 
+// The channel's dialog comes first; its values fill the new page's placeholders.
+Document *NewDocModel::createChannelPage(const QString &fileName, const QString &missingText) const
+{
+    DocumentHooks::PageFiller fill;
+    if (documentHooks().askChannelPage) {
+        fill = documentHooks().askChannelPage(kind);
+        if (!fill)
+            return nullptr;
+    }
+    Document *doc = createFromTemplate(fileName, missingText);
+    if (doc && fill) {
+        doc->txtDoc().setText(fill(doc->txtDoc().Text()));
+        doc->txtDoc().ColorHTML();
+    }
+    return doc;
+}
+
 Document *NewDocModel::create() const
 {
     switch (kind) {
@@ -82,14 +101,12 @@ Document *NewDocModel::create() const
         }
         return NewDocument(path);
     }
-    // The channel pages keep their placeholders until the channel dialogs
-    // fill them in.
     case NetCaster:
-        return createFromTemplate(QStringLiteral("NetCaster.tpl"),
-                                  QStringLiteral("Quillery cannot find the template file for NetCaster Channels"));
+        return createChannelPage(QStringLiteral("NetCaster.tpl"),
+                                 QStringLiteral("Quillery cannot find the template file for NetCaster Channels"));
     case ActiveChannel:
-        return createFromTemplate(QStringLiteral("ActiveChannel.tpl"),
-                                  QStringLiteral("Quillery cannot find the template file for Active Channels"));
+        return createChannelPage(QStringLiteral("ActiveChannel.tpl"),
+                                 QStringLiteral("Quillery cannot find the template file for Active Channels"));
     default:
         return nullptr;
     }

@@ -40,6 +40,7 @@ public:
 
 private:
     Document *createFromTemplate(const QString &fileName, const QString &missingText) const;
+    Document *createChannelPage(const QString &fileName, const QString &missingText) const;
 
     QStringList m_userTemplates;
 };

@@ -42,6 +42,11 @@ public:
     virtual QString chooseDirectory(const QString &title, const QString &start) = 0;
     virtual std::optional<QString> inputText(const QString &title, const QString &prompt,
                                              const QString &initial) = 0;
+    // An input whose text is masked as it is typed (passwords); empty default.
+    virtual std::optional<QString> inputPassword(const QString &title, const QString &prompt)
+    {
+        return inputText(title, prompt, QString());
+    }
     // The hourglass: true while long work runs.
     virtual void setBusy(bool busy) = 0;
 };

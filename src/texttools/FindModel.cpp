@@ -34,14 +34,29 @@ void FindModel::setFindText(const QString &text)
     m_findText = text;
 }
 
-void FindModel::remember(QStringList &list, const QString &text)
+namespace {
+const QString FindHistoryName = QStringLiteral("Find History");
+const QString ReplaceHistoryName = QStringLiteral("Replace History");
+} // namespace
+
+void FindModel::rememberFind(const QString &text)
 {
-    if (text.isEmpty())
-        return;
-    list.removeAll(text);
-    list.prepend(text);
-    while (list.size() > HistoryLength)
-        list.removeLast();
+    core::RememberHistory(FindHistoryName, text);
+}
+
+void FindModel::rememberReplace(const QString &text)
+{
+    core::RememberHistory(ReplaceHistoryName, text);
+}
+
+QStringList FindModel::findHistory() const
+{
+    return core::ReadHistory(FindHistoryName);
+}
+
+QStringList FindModel::replaceHistory() const
+{
+    return core::ReadHistory(ReplaceHistoryName);
 }
 
 SearchPattern FindModel::pattern(const QString &documentText) const

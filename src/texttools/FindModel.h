@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/HistoryList.h"
+
 #include "texttools/SearchPattern.h"
 
 #include <QString>
@@ -22,7 +24,7 @@ public:
     enum class Mode { One, All };
 
     // How long each drop-down history grows.
-    static constexpr int HistoryLength = 20;
+    static constexpr int HistoryLength = core::HistoryLength;
 
     // "f" for the Find guise, "r" for the Replace guise.
     void setGuise(const QString &guise);
@@ -45,10 +47,11 @@ public:
     void setRegex(bool on) { m_regex = on; }
 
     // Puts a text at the top of its history (once; the oldest drops off).
-    void rememberFind(const QString &text) { remember(m_findHistory, text); }
-    void rememberReplace(const QString &text) { remember(m_replaceHistory, text); }
-    QStringList findHistory() const { return m_findHistory; }
-    QStringList replaceHistory() const { return m_replaceHistory; }
+    // The histories are kept in the configuration from session to session.
+    void rememberFind(const QString &text);
+    void rememberReplace(const QString &text);
+    QStringList findHistory() const;
+    QStringList replaceHistory() const;
 
     // The next hit (or with `backwards` the one before the caret), selected.
     // "Search text not found." when there is none. True on a hit.
@@ -62,7 +65,6 @@ public:
     SearchPattern pattern(const QString &documentText) const;
 
 private:
-    static void remember(QStringList &list, const QString &text);
     // The range that "Search in selection" keeps between presses.
     void readRange(const platform::HTMLEdit &edit, int &start, int &end);
     bool patternUsable(const SearchPattern &p) const;
@@ -73,8 +75,6 @@ private:
     QString m_replaceText;
     bool m_options[4] = {false, false, false, false};
     bool m_regex = false;
-    QStringList m_findHistory;
-    QStringList m_replaceHistory;
     int m_rangeStart = -1;
     int m_rangeEnd = -1;
     int m_lastHitStart = -1;

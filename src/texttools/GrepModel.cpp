@@ -5,11 +5,18 @@
 #include "core/TextCodec.h"
 #include "platform/Prompts.h"
 #include "texttools/FileEntries.h"
-#include "texttools/WriteQueue.h"
+#include "texttools/ScanAhead.h"
+#include "texttools/StagedWrites.h"
+#include "texttools/TermMatcher.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace qly::texttools {
 
@@ -38,6 +45,34 @@ bool readListed(const QString &path, QByteArray &bytes, bool &endEntry)
         endEntry = true;
     }
     return false;
+}
+
+// Reads a whole file into `buffer`, which keeps its memory from file to
+// file: a search reads thousands of small pages. 0 or the system's error.
+int readInto(const QString &path, QByteArray &buffer)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return errno;
+    struct stat st {};
+    qsizetype used = 0;
+    int error = ::fstat(fd, &st) == 0 ? 0 : errno;
+    if (error == 0)
+        buffer.resize(qsizetype(st.st_size) + 1);   // one more, to see the end
+    while (error == 0) {
+        if (used == buffer.size())
+            buffer.resize(buffer.size() * 2);
+        const ssize_t got = ::read(fd, buffer.data() + used, size_t(buffer.size() - used));
+        if (got < 0 && errno != EINTR)
+            error = errno;
+        else if (got == 0)
+            break;
+        else if (got > 0)
+            used += got;
+    }
+    ::close(fd);
+    buffer.resize(used);
+    return error;
 }
 
 // The failures of a run, told once at its end.
@@ -102,30 +137,41 @@ GrepSummary GrepModel::FindAndPresentFiles(GrepProgress &progress)
         return s;
     int total = 0;
     const QList<QStringList> lists = expandEntries(total);
+    // Files are read and searched on every core ahead of this loop, which
+    // keeps the listing, the progress and the messages in the entries' order.
+    enum Found { Hit, Miss, Unreadable, Missing };
+    const TermMatcher matcher(terms);
+    QStringList flat;
+    for (const QStringList &files : lists)
+        flat << files;
+    ScanAhead scan(flat, [&matcher](const QString &path) {
+        thread_local QByteArray buffer;
+        const int error = readInto(path, buffer);
+        if (error != 0)
+            return error == ENOENT ? Missing : Unreadable;
+        return !LooksBinary(buffer) && matcher.matches(buffer) ? Hit : Miss;
+    });
     int done = 0;
     for (const QStringList &files : lists) {
+        const int first = done;
         for (const QString &path : files) {
             if ((s.cancelled = progress.cancelled()))
                 break;
             progress.processing(path, done++, total);
-            QByteArray bytes;
-            bool endEntry = false;
-            if (!readListed(path, bytes, endEntry)) {
-                if (endEntry)
-                    break;
-                continue;
-            }
-            if (LooksBinary(bytes))
-                continue;
-            const QString text = core::decodeFile(bytes).text;
-            for (const Term &t : terms) {
-                if (!t.find.isEmpty() && text.contains(t.find, Qt::CaseInsensitive)) {
-                    progress.addToFoundList(path);
-                    ++s.files;
+            const int found = scan.take(done - 1);
+            if (found == Hit) {
+                progress.addToFoundList(path);
+                ++s.files;
+            } else if (found != Miss) {
+                s.failures << path + QStringLiteral(": cannot be read");
+                if (found == Missing) {
+                    // A file that went away since the listing ends its entry.
+                    core::ErrorBox(QStringLiteral("File not found.") + QStringLiteral(": ") + path);
                     break;
                 }
             }
         }
+        done = first + int(files.size());
         if (s.cancelled)
             break;
     }
@@ -142,27 +188,6 @@ GrepSummary GrepModel::FindAndPresentFiles(GrepProgress &progress)
 }
 
 namespace {
-
-// Writes one rewritten file: its backup first, then the text to its target,
-// then the target's name in the asked case. An empty result is success.
-QString writeRewritten(const QString &path, const QByteArray &original, const QByteArray &output,
-                       const RewriteOptions &options)
-{
-    if (options.backup) {
-        const core::IoResult b = core::writeFileAtomically(BackupPath(path), original);
-        if (!b.ok())
-            return path + QStringLiteral(": the backup could not be written (") + b.message + QStringLiteral(")");
-    }
-    const QString target = TargetPath(path, options.htmToHtml);
-    const core::IoResult w = core::writeFileAtomically(target, output);
-    if (!w.ok())
-        return target + QStringLiteral(": ") + (w.message.isEmpty() ? QStringLiteral("cannot be written") : w.message);
-    const QString cased = CasedPath(target, options.nameCase);
-    // A rename is whole or not at all; another file by that name stays.
-    if (cased != target && (QFileInfo::exists(cased) || !QFile::rename(target, cased)))
-        return target + QStringLiteral(": could not be renamed to ") + cased;
-    return {};
-}
 
 // True when two files of the run would write the same path (a backup, a new
 // extension or a new case), so their order matters and they go one by one.
@@ -198,53 +223,53 @@ GrepSummary GrepModel::NewReplace(GrepProgress &progress)
         return s;
     int total = 0;
     const QList<QStringList> lists = expandEntries(total);
-    // Files are read and rewritten here, one after the other, and written by
-    // the queue, several at once unless their paths meet.
-    std::vector<QString> early(total);      // failures before any write
+    // Files are read and rewritten one after the other. Their new texts are
+    // staged and committed together, unless two files of the run write the
+    // same path (a backup, a new extension or a new case): then each file is
+    // written before the next one is read.
+    const bool oneByOne = pathsMeet(lists, options);
+    std::vector<QString> failures(total);
     std::vector<long> counts(total, 0);
-    std::vector<bool> queued(total, false);
-    std::vector<QString> paths(total);
+    std::vector<bool> written(total, false);
     int done = 0;
     {
-        WriteQueue writes(pathsMeet(lists, options) ? 1 : WriterCount);
+        StagedWrites staged(options);
         for (const QStringList &files : lists) {
             for (const QString &path : files) {
                 if ((s.cancelled = progress.cancelled()))
                     break;
                 const int index = done++;
-                paths[index] = path;
                 progress.processing(path, index, total);
                 QByteArray bytes;
                 bool endEntry = false;
                 if (!readListed(path, bytes, endEntry)) {
                     if (endEntry)
                         break;
-                    early[index] = path + QStringLiteral(": cannot be read");
+                    failures[index] = path + QStringLiteral(": cannot be read");
                     continue;
                 }
                 if (LooksBinary(bytes)) {
-                    early[index] = path + QStringLiteral(": a binary file, not rewritten");
+                    failures[index] = path + QStringLiteral(": a binary file, not rewritten");
                     continue;
                 }
                 core::DecodedFile decoded = core::decodeFile(bytes);
                 counts[index] = RewriteText(decoded.text, terms, options.conversion);
-                QByteArray output = core::encodeText(decoded.text, decoded.encoding);
-                if (!options.backup)
-                    bytes.clear();
-                queued[index] = true;
-                writes.add(index, [path, bytes = std::move(bytes), output = std::move(output), o = options] {
-                    return writeRewritten(path, bytes, output, o);
-                });
+                const QByteArray output = core::encodeText(decoded.text, decoded.encoding);
+                if (oneByOne)
+                    failures[index] = WriteRewritten(path, bytes, output, options);
+                else
+                    staged.add(index, path, options.backup ? bytes : QByteArray(), output);
+                written[index] = true;
             }
             if (s.cancelled)
                 break;
         }
-        const std::vector<QString> &written = writes.finish();
+        const std::vector<QString> &late = staged.finish();
         for (int i = 0; i < done; ++i) {
-            const QString failure = queued[i] && i < int(written.size()) ? written[i] : early[i];
+            const QString &failure = failures[i].isEmpty() && i < int(late.size()) ? late[i] : failures[i];
             if (!failure.isEmpty()) {
                 s.failures << failure;
-            } else if (queued[i]) {
+            } else if (written[i]) {
                 s.replacements += counts[i];
                 ++s.files;
             }

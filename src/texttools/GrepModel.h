@@ -39,9 +39,6 @@ public:
     QList<Term> terms;        // the grid: "Find", "Replace With"
     RewriteOptions options;
 
-    // Files written at once when no two of them write the same path.
-    static constexpr int WriterCount = 8;
-
     // Lists the files that contain a term (without regard to case).
     GrepSummary FindAndPresentFiles(GrepProgress &progress);
     // Replaces every term in every file, with the conversions; every write

@@ -63,6 +63,7 @@ QString SpellSession::context() const
 
 void SpellSession::replaceCurrent(const QString &replacement)
 {
+    m_shift += replacement.size() - m_current.length;
     m_text.replace(m_current.position, m_current.length, replacement);
     m_from = m_current.position + replacement.size();
     m_changed = true;
@@ -146,9 +147,14 @@ void CheckSpelling(const std::function<SpellAction(SpellSession &session, QStrin
     if (!checker)
         return;
     platform::HTMLEdit &edit = doc->txtDoc();
+    const int selStart = edit.SelStart();
+    const int selLength = edit.SelLength();
     SpellSession session(edit.Text(), std::move(checker), custom.get());
     bool cancelled = false;
     while (session.next()) {
+        // The word in question is selected in the document while it is asked.
+        edit.setSelStart(int(session.originalPosition()));
+        edit.setSelLength(int(session.word().size()));
         QString replacement;
         const SpellAction action = ask(session, replacement);
         if (action == SpellAction::Cancel) {
@@ -157,18 +163,22 @@ void CheckSpelling(const std::function<SpellAction(SpellSession &session, QStrin
         }
         session.act(action, replacement);
     }
-    if (cancelled && session.changed()
-        && platform::MsgBox(QStringLiteral("Do you still want to apply the changes you made ?"),
-                            platform::Buttons::YesNo, platform::Icon::Question)
-               == platform::Answer::No)
-        return;
-    if (session.changed()) {
-        const int caret = edit.SelStart();
+    const bool apply = session.changed()
+                       && !(cancelled
+                            && platform::MsgBox(QStringLiteral("Do you still want to apply the changes you made ?"),
+                                                platform::Buttons::YesNo, platform::Icon::Question)
+                                   == platform::Answer::No);
+    if (apply) {
         edit.PrepareUndo();
         edit.setText(session.text());
         edit.EndPUndo();
         edit.setDirty(true);
-        edit.setSelStart(caret);
+        edit.setSelStart(selStart);
+    } else {
+        edit.setSelStart(selStart);
+        edit.setSelLength(selLength);
+        if (session.changed())
+            return;
     }
     if (!cancelled)
         core::ShowStatus(QStringLiteral("Spell check complete."));

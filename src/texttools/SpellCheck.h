@@ -24,6 +24,9 @@ public:
     bool next();
     QString word() const { return m_text.mid(m_current.position, m_current.length); }
     qsizetype position() const { return m_current.position; }
+    // Where the word stands in the text the session started from: the
+    // document, which changes only at the end.
+    qsizetype originalPosition() const { return m_current.position - m_shift; }
     QStringList suggestions() const { return m_checker->suggest(word()); }
     // The line the word stands in, without its markup, for the dialog.
     QString context() const;
@@ -47,6 +50,7 @@ private:
     CustomDictionary *m_custom;
     SpellWord m_current;
     qsizetype m_from = 0;
+    qsizetype m_shift = 0;   // how much longer the copy is before the current word
     QSet<QString> m_ignored;
     QHash<QString, QString> m_changeAll;
     bool m_changed = false;

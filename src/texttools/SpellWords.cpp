@@ -76,6 +76,34 @@ qsizetype entityLength(QStringView text, qsizetype at)
     return i + 1 - at;
 }
 
+// True when the entity of `length` characters at `at` stands for a letter
+// ("&eacute;", "&#233;"): it belongs to the word it touches. Others
+// ("&nbsp;", "&amp;", "&mdash;") part words as a blank does.
+bool entityIsLetter(QStringView text, qsizetype at, qsizetype length)
+{
+    const QStringView name = text.mid(at + 1, length - 2);
+    if (name.startsWith(u'#')) {
+        bool ok = false;
+        const bool hex = name.size() > 1 && (name.at(1) == u'x' || name.at(1) == u'X');
+        const uint value = name.mid(hex ? 2 : 1).toUInt(&ok, hex ? 16 : 10);
+        return ok && QChar::isLetter(char32_t(value));
+    }
+    static const QLatin1String accents[] = {
+        QLatin1String("acute"), QLatin1String("grave"), QLatin1String("circ"),  QLatin1String("uml"),
+        QLatin1String("tilde"), QLatin1String("ring"),  QLatin1String("cedil"), QLatin1String("slash"),
+        QLatin1String("caron"), QLatin1String("ogon"),  QLatin1String("macr"),  QLatin1String("breve"),
+        QLatin1String("dot"),   QLatin1String("strok"), QLatin1String("lig")};
+    for (const QLatin1String accent : accents) {
+        if (name.size() > accent.size() && name.endsWith(accent))
+            return true;
+    }
+    for (const char *letter : {"szlig", "eth", "thorn", "ETH", "THORN", "fnof"}) {
+        if (name == QLatin1String(letter))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 SpellWord NextSpellWord(QStringView text, qsizetype from)
@@ -92,8 +120,8 @@ SpellWord NextSpellWord(QStringView text, qsizetype from)
         if (c == u'&') {
             const qsizetype length = entityLength(text, i);
             if (length > 0) {
+                touchedByEntity = entityIsLetter(text, i, length);
                 i += length;
-                touchedByEntity = true;
                 continue;
             }
         }
@@ -115,7 +143,8 @@ SpellWord NextSpellWord(QStringView text, qsizetype from)
                 break;
             }
         }
-        const bool entityBehind = i < text.size() && text.at(i) == u'&' && entityLength(text, i) > 0;
+        const qsizetype behind = i < text.size() && text.at(i) == u'&' ? entityLength(text, i) : 0;
+        const bool entityBehind = behind > 0 && entityIsLetter(text, i, behind);
         if (letter && !touchedByEntity && !entityBehind)
             return {start, i - start};
         touchedByEntity = false;

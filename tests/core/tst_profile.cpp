@@ -1,4 +1,5 @@
 #include "core/Globals.h"
+#include "core/HistoryList.h"
 #include "core/ProfileFile.h"
 #include "core/Settings.h"
 #include "support/ScriptedPrompts.h"
@@ -31,6 +32,7 @@ private slots:
     void otherLinesSurviveWrites();
     void sectionsAreReadAndReplacedWhole();
     void failedSectionWriteIsTold();
+    void historiesKeepNewestFirstOnceAndCapped();
     void writeLeavesNoHalfFile();
     void randomOperationsMatchAModel();
     void garbageFilesNeverBreakTheReader();
@@ -137,6 +139,25 @@ void tst_Profile::sectionsAreReadAndReplacedWhole()
     QVERIFY(core::WriteSection(QStringLiteral("Browsers"), QString(2, QChar(0))));
     QVERIFY(!env.read(QStringLiteral("quillery.ini")).contains("Browsers"));
     QCOMPARE(ReadSetting(QStringLiteral("X"), QStringLiteral("k")), QStringLiteral("v"));
+}
+
+void tst_Profile::historiesKeepNewestFirstOnceAndCapped()
+{
+    test::TestEnv env;
+    const QString links = QStringLiteral("Links");
+    core::RememberHistory(links, QStringLiteral("a.html"));
+    core::RememberHistory(links, QStringLiteral("b.html"));
+    core::RememberHistory(links, QStringLiteral("   "));
+    core::RememberHistory(links, QStringLiteral("a.html"));
+    QCOMPARE(core::ReadHistory(links), (QStringList{QStringLiteral("a.html"), QStringLiteral("b.html")}));
+    for (int i = 0; i < core::HistoryLength + 5; ++i)
+        core::RememberHistory(links, QStringLiteral("p%1=x.html").arg(i));   // '=' in a value survives
+    const QStringList kept = core::ReadHistory(links);
+    QCOMPARE(kept.size(), core::HistoryLength);
+    QCOMPARE(kept.first(), QStringLiteral("p%1=x.html").arg(core::HistoryLength + 4));
+    // Hand-edited files: keys out of order, a repeat and a stray key.
+    env.write(QStringLiteral("quillery.ini"), "[Images]\r\n2=b.gif\r\nx=junk\r\n1=a.gif\r\n3=a.gif\r\n");
+    QCOMPARE(core::ReadHistory(QStringLiteral("images")), (QStringList{QStringLiteral("a.gif"), QStringLiteral("b.gif")}));
 }
 
 void tst_Profile::failedSectionWriteIsTold()

@@ -5,6 +5,7 @@
 #include "documents/NewDocModel.h"
 #include "documents/NewDocument.h"
 #include "documents/TemplateSave.h"
+#include "generators/ReplaceChannel.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -27,6 +28,7 @@ private slots:
     void lowerCaseTagsOnNewDocuments();
     void dialogKinds_data();
     void dialogKinds();
+    void channelPagesAreFilledThroughTheirDialogs();
     void saveAsTemplate();
     void shippedTemplates_data();
     void shippedTemplates();
@@ -126,7 +128,6 @@ void tst_NewDocument::dialogKinds_data()
     QTest::newRow("user defined") << 3 << 0 << "mine.txt" << all << "custom" << "";
     QTest::newRow("user defined missing") << 3 << 0 << "gone.tpl" << all << ""
                                           << "The specified file does not exist";
-    QTest::newRow("netcaster keeps placeholders") << 4 << 0 << "" << all << "NetCaster.tpl %Name%" << "";
     QTest::newRow("netcaster missing") << 4 << 0 << "" << QStringList() << ""
                                        << "Quillery cannot find the template file for NetCaster Channels";
     QTest::newRow("active channel missing") << 5 << 0 << "" << QStringList() << ""
@@ -170,6 +171,55 @@ void tst_NewDocument::dialogKinds()
         QCOMPARE(doc->txtDoc().Text(), text);
     QCOMPARE(doc->caption(), QStringLiteral("Untitled-1"));
     QVERIFY(doc->LocalFileName.isEmpty());
+}
+
+void tst_NewDocument::channelPagesAreFilledThroughTheirDialogs()
+{
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    test::FakeWorkspace ws;
+    installTemplate(env, QStringLiteral("NetCaster.tpl"),
+                    "<TITLE>%Name%</TITLE>\r\n%url% every %Interval% min, %CacheSize% bytes, depth %Depth%, "
+                    "%Active%/%Mode%/%Type%: %ButtonName%");
+    installTemplate(env, QStringLiteral("ActiveChannel.tpl"),
+                    "<CHANNEL HREF=\"%URL%\" SELF=\"%Self%\"><TITLE>%Name%</TITLE>%LongName%|%Abstract%|"
+                    "%Frequency%|%ItemName%|%ItemURL%");
+    QList<int> asked;
+    bool cancel = false;
+    documents::documentHooks().askChannelPage = [&](int kind) -> documents::DocumentHooks::PageFiller {
+        asked << kind;
+        if (cancel)
+            return {};
+        if (kind == NewDocModel::NetCaster) {
+            const generators::NetCasterFields f{QStringLiteral("Daily"), QStringLiteral("http://x/"),
+                                                QStringLiteral("30"), QStringLiteral("1024"), QStringLiteral("2"),
+                                                QStringLiteral("webtop"), QStringLiteral("Add")};
+            return [f](const QString &t) { return generators::FillNetCaster(t, f); };
+        }
+        const generators::ActiveChannelFields f{QStringLiteral("Ex"), QStringLiteral("4"), QStringLiteral("http://e/"),
+                                                QStringLiteral("About"), QStringLiteral("Example"),
+                                                QStringLiteral("Front"), QStringLiteral("f.html"),
+                                                QStringLiteral("http://e/e.cdf")};
+        return [f](const QString &t) { return generators::FillActiveChannel(t, f); };
+    };
+    NewDocModel model;
+    model.kind = NewDocModel::NetCaster;
+    documents::Document *doc = model.create();
+    QVERIFY(doc);
+    QCOMPARE(doc->txtDoc().Text(),
+             QStringLiteral("<TITLE>Daily</TITLE>\r\nhttp://x/ every 30 min, 1024 bytes, depth 2, 1/webtop/1: Add"));
+    model.kind = NewDocModel::ActiveChannel;
+    doc = model.create();
+    QVERIFY(doc);
+    QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<CHANNEL HREF=\"http://e/\" SELF=\"http://e/e.cdf\"><TITLE>Ex</TITLE>"
+                                                  "Example|About|4|Front|f.html"));
+    // Cancelling the dialog makes no document and says nothing.
+    cancel = true;
+    QVERIFY(!model.create());
+    QCOMPARE(ws.count(), 2);
+    QCOMPARE(asked, (QList<int>{NewDocModel::NetCaster, NewDocModel::ActiveChannel, NewDocModel::ActiveChannel}));
+    QVERIFY(prompts.shown.isEmpty());
+    documents::documentHooks().askChannelPage = nullptr;
 }
 
 void tst_NewDocument::saveAsTemplate()

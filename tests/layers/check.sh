@@ -6,7 +6,7 @@
 set -u
 src="${1:?usage: check.sh SRC_DIR}"
 cd "$src" || exit 2
-parts='documents|markup|publish|websites|generators|images|texttools'
+parts='documents|markup|publish|websites|generators|images|texttools|tagdialogs|automation|transfer'
 bad=0
 report() {
     local rule="$1" lines="$2"
@@ -21,7 +21,7 @@ report "a part includes the app" \
     "$(grep -rnE '#include "app/' --include='*.h' --include='*.cpp' . | grep -v '^\./app/')"
 report "code without a window includes a widget folder or Qt Widgets" \
     "$(grep -rnE '#include ("[a-z]+/ui/|<Q(Widget|Dialog|Main|Mdi|Action|Menu|Push|Label|Tool|Message|FileDialog|Application|Color)|<Qsci)' \
-        core documents markup publish websites generators images texttools platform 2>/dev/null \
+        core documents markup publish websites generators images texttools platform tagdialogs automation transfer 2>/dev/null \
         --include='*.h' --include='*.cpp' | grep -vE '^[a-z]+/ui/')"
 if [ "$bad" -ne 0 ]; then
     echo "layers: FAILED"

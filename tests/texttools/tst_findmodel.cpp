@@ -228,6 +228,7 @@ void tst_FindModel::regexOnAndOff()
 
 void tst_FindModel::guisesAndHistory()
 {
+    test::TestEnv env;
     FindModel m;
     m.setGuise(QStringLiteral("f"));
     QCOMPARE(m.title(), QStringLiteral("Find Text"));
@@ -242,6 +243,8 @@ void tst_FindModel::guisesAndHistory()
     QCOMPARE(m.findHistory().first(), QStringLiteral("10"));
     QCOMPARE(m.findHistory().count(QStringLiteral("10")), 1);
     QCOMPARE(m.findHistory().at(1), QStringLiteral("24"));
+    // The next session's dialog finds the same list.
+    QCOMPARE(FindModel().findHistory().first(), QStringLiteral("10"));
 }
 
 QTEST_GUILESS_MAIN(tst_FindModel)

@@ -2,11 +2,18 @@
 #include "support/TestEnv.h"
 #include "texttools/FileEntries.h"
 #include "texttools/GrepModel.h"
+#include "texttools/StagedWrites.h"
+#include "texttools/TermMatcher.h"
+#include "core/TextCodec.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace qly;
 using namespace qly::texttools;
@@ -17,11 +24,13 @@ class tst_MultiFile : public QObject
 private slots:
     void entriesKeepTheExtensionLength();
     void findListsEachFileOnce();
+    void byteSearchAgreesWithDecodedSearch();
     void findMessages();
     void replaceWithBackupsAndConversions();
     void namesChangeExtensionAndCase();
     void failuresAreToldAndTheRestGoesOn();
     void cancelStops();
+    void stagedWritesKeepWhatIsNotTheirs();
     void vanishedFileEndsItsEntry();
     void commandLineTwin();
 };
@@ -51,6 +60,41 @@ QString name(const QString &path)
 }
 
 } // namespace
+
+void tst_MultiFile::byteSearchAgreesWithDecodedSearch()
+{
+    // Random pages in both encodings from an alphabet with the characters
+    // that fold across the ASCII line (KELVIN SIGN, LONG S), accents and
+    // cp1252's own letters; random terms, ASCII and not. The byte search must
+    // give what a search of the decoded text gives.
+    const QString alphabet = QStringLiteral("aAkKsSiIzZ <>=\"\r\n") + QChar(0x212A) + QChar(0x17F) + QChar(0xE9) +
+                             QChar(0xC9) + QChar(0x160) + QChar(0x161) + QChar(0x130) + QChar(0x131);
+    QRandomGenerator rng(20261123);
+    auto randomText = [&](int length) {
+        QString t;
+        for (int i = 0; i < length; ++i)
+            t += alphabet.at(rng.bounded(int(alphabet.size())));
+        return t;
+    };
+    int hits = 0;
+    for (int round = 0; round < 3000; ++round) {
+        QList<Term> terms;
+        const int count = 1 + rng.bounded(2);
+        for (int i = 0; i < count; ++i)
+            terms << Term{randomText(1 + rng.bounded(3)), {}};
+        const QString page = randomText(rng.bounded(60));
+        const auto encoding = rng.bounded(2) ? core::TextEncoding::Utf8 : core::TextEncoding::Windows1252;
+        const QByteArray bytes = core::encodeText(page, encoding);
+        const QString decoded = core::decodeFile(bytes).text;
+        bool expected = false;
+        for (const Term &t : terms)
+            expected = expected || decoded.contains(t.find, Qt::CaseInsensitive);
+        hits += expected;
+        QVERIFY2(TermMatcher(terms).matches(bytes) == expected,
+                 qPrintable(QStringLiteral("terms %1 in %2").arg(terms.first().find, decoded)));
+    }
+    QVERIFY(hits > 300 && hits < 2700);   // both answers were exercised
+}
 
 void tst_MultiFile::entriesKeepTheExtensionLength()
 {
@@ -218,6 +262,46 @@ void tst_MultiFile::cancelStops()
     QCOMPARE(env.read(QStringLiteral("w/2.htm")), QByteArray("old"));
 }
 
+void tst_MultiFile::stagedWritesKeepWhatIsNotTheirs()
+{
+    // Batches of two, so old files left by the exchanges are reused as the
+    // later temporaries: the texts must all be right, a page with a second
+    // name must not have its old inode reused, modes stay, nothing is left.
+    test::TestEnv env;
+    QStringList pages;
+    QList<ino_t> oldInodes;
+    auto inode = [](const QString &path) {
+        struct stat st {};
+        return ::stat(QFile::encodeName(path).constData(), &st) == 0 ? st.st_ino : ino_t(0);
+    };
+    for (int i = 0; i < 7; ++i) {
+        pages << env.write(QStringLiteral("w/p%1.html").arg(i), "old " + QByteArray::number(i));
+        oldInodes << inode(pages.last());
+    }
+    QFile::setPermissions(pages[0], QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    const QString link = env.path(QStringLiteral("link.txt"));
+    QCOMPARE(::link(QFile::encodeName(pages[1]).constData(), QFile::encodeName(link).constData()), 0);
+    {
+        StagedWrites writes(RewriteOptions{}, 2);
+        for (int i = 0; i < pages.size(); ++i)
+            writes.add(i, pages[i], {}, "new " + QByteArray::number(i) + QByteArray(i * 1000, 'x'));
+        for (const QString &failure : writes.finish())
+            QVERIFY2(failure.isEmpty(), qPrintable(failure));
+    }
+    bool reused = false;
+    for (int i = 0; i < pages.size(); ++i) {
+        QCOMPARE(env.read(QStringLiteral("w/p%1.html").arg(i)), "new " + QByteArray::number(i) + QByteArray(i * 1000, 'x'));
+        QVERIFY(inode(pages[i]) != oldInodes[1]);
+        reused = reused || oldInodes.contains(inode(pages[i]));
+    }
+    QVERIFY(reused);
+    QCOMPARE(env.read(QStringLiteral("link.txt")), QByteArray("old 1"));
+    struct stat st {};
+    QCOMPARE(::stat(QFile::encodeName(pages[0]).constData(), &st), 0);
+    QCOMPARE(st.st_mode & 0777, mode_t(0640));
+    QCOMPARE(QDir(env.path(QStringLiteral("w"))).entryList(QDir::Files | QDir::Hidden).size(), pages.size());
+}
+
 void tst_MultiFile::vanishedFileEndsItsEntry()
 {
     test::TestEnv env;
@@ -257,7 +341,7 @@ void tst_MultiFile::commandLineTwin()
     env.write(QStringLiteral("quillery.ini"), "");
     QByteArray out, err;
     const QString entry = env.path(QStringLiteral("w/*.htm"));
-    QCOMPARE(run({QStringLiteral("grep"), QStringLiteral("-e"), QStringLiteral("OLD"), entry}, out, err), 0);
+    QCOMPARE(run({QStringLiteral("find"), QStringLiteral("-e"), QStringLiteral("OLD"), entry}, out, err), 0);
     QCOMPARE(out, (env.path(QStringLiteral("w/a.htm")) + QStringLiteral("\n")).toLocal8Bit());
     QCOMPARE(run({QStringLiteral("replace"), QStringLiteral("--backup"), QStringLiteral("--dos-to-unix"),
                   QStringLiteral("--htm-to-html"), QStringLiteral("-e"), QStringLiteral("old"), QStringLiteral("new"),
@@ -268,7 +352,7 @@ void tst_MultiFile::commandLineTwin()
     QCOMPARE(env.read(QStringLiteral("w/a.html")), QByteArray("new\n"));
     QCOMPARE(env.read(QStringLiteral("w/a.bak")), QByteArray("Old\r\n"));
     QCOMPARE(env.read(QStringLiteral("w/b.html")), QByteArray("old"));
-    QCOMPARE(run({QStringLiteral("grep"), QStringLiteral("-e"), QStringLiteral("zzz"), entry}, out, err), 1);
+    QCOMPARE(run({QStringLiteral("find"), QStringLiteral("-e"), QStringLiteral("zzz"), entry}, out, err), 1);
     QCOMPARE(run({QStringLiteral("replace"), QStringLiteral("--bogus"), entry}, out, err), 2);
 }
 

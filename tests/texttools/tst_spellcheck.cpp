@@ -70,10 +70,13 @@ void tst_SpellCheck::wordsOfThePageOnly()
     const QString page = QStringLiteral(
         "<P CLASS=\"wrng\" TITLE='a > b'>Na\u00efve caf&eacute; it\u2019s don't 42 h2o</P><!-- comnt <b>x</b> -->"
         "<script type=\"x\">var mispeled;</script><STYLE>p { colr: red }</STYLE>&amp;&nbsp;end&nbsp; "
-        "<scripted>kept</scripted> A&B");
+        "<scripted>kept</scripted> A&B caf&#233; na&#xEF;ve one&mdash;two&#160;three");
+    // Entities for letters join the word they touch, which is then passed
+    // over; other entities part words as blanks do.
     QCOMPARE(words(page), QStringList({QStringLiteral("Na\u00efve"), QStringLiteral("it\u2019s"), QStringLiteral("don't"),
-                                       QStringLiteral("h2o"), QStringLiteral("kept"), QStringLiteral("A"),
-                                       QStringLiteral("B")}));
+                                       QStringLiteral("h2o"), QStringLiteral("end"), QStringLiteral("kept"),
+                                       QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("one"),
+                                       QStringLiteral("two"), QStringLiteral("three")}));
 }
 
 void tst_SpellCheck::plantedMisspellingsInBothEncodings()

@@ -73,7 +73,8 @@ const std::vector<CommandInfo> &commandCatalogue()
         {S("ViewTB3"), S("&Format Toolbar"), {}},
         {S("ViewTB4"), S("&Style Toolbar"), {}},
         {S("ViewResMan"), S("&Resource Manager"), {}},
-        {S("ViewProperties"), S("&Document Properties..."), {}},
+        // The edit control's own Properties key, as desktops know it.
+        {S("ViewProperties"), S("&Document Properties..."), K(S("Alt+Return"))},
         {S("ViewSpecialCharacters"), S("Special &Characters..."), {}},
         // Insert
         {S("InsertImage"), S("&Image..."), {}},

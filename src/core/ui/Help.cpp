@@ -43,9 +43,19 @@ QString helpPagePath()
     return JoinPath(ProgramDirectory(), QStringLiteral("help/index.html"));
 }
 
-bool OpenHelp()
+QString helpTopicPath(const QString &topic)
 {
-    return OpenInBrowser(QUrl::fromLocalFile(helpPagePath()));
+    if (!topic.isEmpty() && !topic.contains(u'/') && !topic.contains(u'.')) {
+        const QString page = JoinPath(ProgramDirectory(), QStringLiteral("help/") + topic + QStringLiteral(".html"));
+        if (QFileInfo(page).isFile())
+            return page;
+    }
+    return helpPagePath();
+}
+
+bool OpenHelp(const QString &topic)
+{
+    return OpenInBrowser(QUrl::fromLocalFile(helpTopicPath(topic)));
 }
 
 QPushButton *addHelpButton(QDialogButtonBox *box, QWidget *dialog, const QString &objectName)
@@ -54,7 +64,7 @@ QPushButton *addHelpButton(QDialogButtonBox *box, QWidget *dialog, const QString
     help->setObjectName(objectName);
     help->setIcon(QIcon::fromTheme(QStringLiteral("help-contents"),
                                    dialog->style()->standardIcon(QStyle::SP_DialogHelpButton)));
-    QObject::connect(help, &QPushButton::clicked, dialog, [] { OpenHelp(); });
+    QObject::connect(help, &QPushButton::clicked, dialog, [dialog] { OpenHelp(dialog->objectName()); });
     return help;
 }
 

@@ -20,10 +20,13 @@ bool StartConfiguredBrowser(const QUrl &url);
 
 // The help page, help/index.html in the program's data.
 QString helpPagePath();
-bool OpenHelp();
+// The page of a topic, help/TOPIC.html (a dialog's topic is its object
+// name, "frmFind"); the contents page when the topic has none.
+QString helpTopicPath(const QString &topic);
+bool OpenHelp(const QString &topic = {});
 
 // Adds a Help button with the desktop's help icon to `box`; it opens the
-// help page over `dialog`.
+// help topic of `dialog` (its object name).
 QPushButton *addHelpButton(QDialogButtonBox *box, QWidget *dialog, const QString &objectName);
 
 } // namespace qly::core::ui

@@ -3,6 +3,8 @@
 class QMainWindow;
 class QMdiArea;
 class QMenu;
+class QString;
+class QWidget;
 
 namespace qly::core::ui {
 
@@ -25,6 +27,8 @@ public:
     virtual QMdiArea *mdiArea() const = 0;
     // The document's right-click menu.
     virtual QMenu *popupMenu() const = 0;
+    // Puts `content` on the resource manager's tab of that name.
+    virtual void setResourceTab(const QString &tab, QWidget *content) = 0;
 };
 
 } // namespace qly::core::ui

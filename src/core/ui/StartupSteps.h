@@ -11,10 +11,14 @@ namespace qly::core::ui {
 enum class StartupStep {
     MainWindowLoaded,   // the window is up: its timers start
     BrowserMenu,        // the preview entries are built from [Browsers]
+    TagTree,            // the tag tree is built
     RecentFiles,        // the File menu's recent files
+    StyleList,          // the style library is scanned
     CharsList,          // [Display] "Chars List" is on
     FindBrowsers,       // [File Locations] "Browser" is empty
     NewDocument,        // [General] "Open New Document" is on
+    PlugIns,            // the main window has loaded: the Plug-ins menu is filled
+    Automation,         // start-up is over: other programs may drive the editor
 };
 
 class StartupSteps

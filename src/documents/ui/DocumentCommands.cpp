@@ -84,13 +84,7 @@ void registerWindowMenu(core::ui::CommandTable &t, QMdiArea *mdi)
     t.bind(N("mnuWindow0"), [mdi] { mdi->cascadeSubWindows(); });
     t.bind(N("mnuWindow1"), [mdi] { mdi->tileSubWindows(); });
     t.bind(N("mnuWindow2"), [mdi] { mdi->tileSubWindows(); });
-    t.bind(N("mnuWindow4"), [] {
-        if (!SaveAllDocuments(true))
-            return;
-        Workspace *ws = Workspace::instance();
-        for (Document *d : AllDocuments())
-            ws->unloadDocument(d);
-    });
+    t.bind(N("mnuWindow4"), [] { CloseAllDocuments(); });
 }
 
 } // namespace

@@ -2,12 +2,21 @@
 
 #include "platform/HTMLEdit.h"
 
-class QsciLexerHTML;
+#include <QColor>
+
+class QFont;
 
 namespace qly::documents::ui {
 
-// Gives the lexer's styles the colours of the slots; with `entireTags`
-// a whole tag, its attributes and values included, takes the tag colour.
-void applyEditColors(QsciLexerHTML &lexer, const platform::ColorTable &colors, bool entireTags);
+class HtmlColouring;
+
+// The colour a slot has when its [Editing] key is empty: tones that read on
+// a light and on a dark desktop palette; text takes the palette's own.
+QColor defaultSlotColor(int slot);
+
+// Gives the colouring's styles the colours of the slots over the palette's
+// base. With `entireTags` a whole tag (attributes, values, unknown names)
+// takes the tag colour and script words stay text.
+void applyEditColors(HtmlColouring &lexer, const platform::ColorTable &colors, bool entireTags, const QFont &font);
 
 } // namespace qly::documents::ui

@@ -2,23 +2,54 @@
 
 #include "core/Feedback.h"
 #include "core/FileIo.h"
+#include "core/Globals.h"
 #include "documents/TextSearch.h"
 #include "documents/ui/EditColors.h"
+#include "documents/ui/HtmlColouring.h"
 #include "documents/ui/PrintSetup.h"
 
 #include <Qsci/qscicommand.h>
 #include <Qsci/qscicommandset.h>
-#include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciprinter.h>
 #include <Qsci/qsciscintilla.h>
 
+#include <QAccessibleWidget>
+#include <QDateTime>
+#include <QFontDatabase>
 #include <QPrintDialog>
+#include <QTimer>
 
 namespace qly::documents::ui {
 
 using Base = QsciScintillaBase;
 
 namespace {
+
+// A pause in typing this long lets the colouring go on past the screen.
+constexpr int kTypingPauseMs = 300;
+// Bytes coloured past the screen in one go, a few milliseconds' work.
+constexpr long kColourAheadBytes = 1024 * 1024;
+
+// QScintilla's own accessible text counts characters from the start of the
+// page for each caret move, a second a move on a large page. While no
+// assistive technology listens, the control is offered as a plain editable
+// widget instead. Factories installed later are asked first.
+QAccessibleInterface *plainAccessible(const QString &, QObject *object)
+{
+    auto *sci = qobject_cast<QsciScintillaBase *>(object);
+    if (sci && !QAccessible::isActive())
+        return new QAccessibleWidget(sci, QAccessible::EditableText);
+    return nullptr;
+}
+
+void keepAccessibilityCheap()
+{
+    static bool installed = false;
+    if (!installed) {
+        installed = true;
+        QAccessible::installFactory(plainAccessible);
+    }
+}
 
 int utf8Length(unsigned char lead)
 {
@@ -30,15 +61,48 @@ int utf8Length(unsigned char lead)
 ScintillaEdit::ScintillaEdit(QWidget *parent)
     : QObject(parent)
     , m_sci(new QsciScintilla(parent))
+    , m_index([this](std::int64_t pos, std::int64_t length) {
+        return reinterpret_cast<const char *>(send(Base::SCI_GETRANGEPOINTER, pos, long(length)));
+    })
 {
     m_colors.fill(-1);
     m_sci->setUtf8(true);
     m_sci->setEolMode(QsciScintilla::EolWindows);
     m_sci->setMarginWidth(1, 0);
     m_sci->setCaretLineVisible(false);
-    send(Base::SCI_ALLOCATELINECHARACTERINDEX, Base::SC_LINECHARACTERINDEX_UTF16);
+    // Every change reaches the character index and the colouring before it
+    // is made. Only those two notices are asked for: QScintilla answers a
+    // notice of inserted or deleted text by counting the characters from
+    // the start of the page, which on a large page costs a second a key.
+    send(Base::SCI_SETMODEVENTMASK, Base::SC_MOD_BEFOREINSERT | Base::SC_MOD_BEFOREDELETE);
+    connect(m_sci, &QsciScintillaBase::SCN_MODIFIED, this,
+            [this](int position, int type, const char *, int length, int, int, int, int, int, int) {
+                // The text to come is not handed over: it is counted once it
+                // is in, at the next notice or question.
+                index();
+                if (type & Base::SC_MOD_BEFOREINSERT)
+                    m_pendingInsert = {position, length};
+                else if ((type & Base::SC_MOD_BEFOREDELETE) && position == 0 && length >= m_index.length())
+                    m_index.reset(0);
+                else if (type & Base::SC_MOD_BEFOREDELETE)
+                    m_index.removing(position, length);
+            });
+    keepAccessibilityCheap();
     connect(m_sci, &QsciScintilla::selectionChanged, this, &ScintillaEdit::caretMoved);
-    connect(m_sci, &QsciScintilla::cursorPositionChanged, this, [this](int, int) { emit caretMoved(); });
+    connect(m_sci, &QsciScintilla::cursorPositionChanged, this, [this](int line, int) {
+        // Leaving a line recolours the page when [Editing] "Color On Leaving Line" says so.
+        if (line != m_caretLine && core::gColorOnLeavingLine)
+            ColorHTML();
+        m_caretLine = line;
+        emit caretMoved();
+    });
+    m_colourAhead = new QTimer(this);
+    m_colourAhead->setSingleShot(true);
+    connect(m_colourAhead, &QTimer::timeout, this, &ScintillaEdit::colourAhead);
+    connect(m_sci, &QsciScintilla::textChanged, this, [this] {
+        m_lastChange = QDateTime::currentMSecsSinceEpoch();
+        startColouringAhead(kTypingPauseMs);
+    });
     connect(m_sci, &QsciScintilla::modificationChanged, this, [this](bool) { emit dirtyChanged(Dirty()); });
 }
 
@@ -59,39 +123,23 @@ long ScintillaEdit::byteLength() const
     return send(Base::SCI_GETLENGTH);
 }
 
-bool ScintillaEdit::plainAscii() const
+Utf16Index &ScintillaEdit::index() const
 {
-    // The UTF-16 length equals the byte length only when every byte is ASCII.
-    const long lines = send(Base::SCI_GETLINECOUNT);
-    const long lastStart = send(Base::SCI_POSITIONFROMLINE, lines - 1);
-    const long units = send(Base::SCI_INDEXPOSITIONFROMLINE, lines - 1, Base::SC_LINECHARACTERINDEX_UTF16)
-                       + send(Base::SCI_COUNTCODEUNITS, lastStart, byteLength());
-    return units == byteLength();
+    if (m_pendingInsert.second > 0) {
+        m_index.inserted(m_pendingInsert.first, m_pendingInsert.second);
+        m_pendingInsert = {};
+    }
+    return m_index;
 }
 
 int ScintillaEdit::toChar(long bytePos) const
 {
-    if (bytePos <= 0)
-        return 0;
-    const long line = send(Base::SCI_LINEFROMPOSITION, bytePos);
-    const long lineStart = send(Base::SCI_POSITIONFROMLINE, line);
-    return int(send(Base::SCI_INDEXPOSITIONFROMLINE, line, Base::SC_LINECHARACTERINDEX_UTF16)
-               + send(Base::SCI_COUNTCODEUNITS, lineStart, bytePos));
+    return int(index().unitsBefore(bytePos));
 }
 
 long ScintillaEdit::toByte(int charPos) const
 {
-    if (charPos <= 0)
-        return 0;
-    const int total = GetTextLength();
-    if (charPos >= total)
-        return byteLength();
-    const long line = send(Base::SCI_LINEFROMINDEXPOSITION, charPos, Base::SC_LINECHARACTERINDEX_UTF16);
-    const long lineStart = send(Base::SCI_POSITIONFROMLINE, line);
-    const long lineUnits = send(Base::SCI_INDEXPOSITIONFROMLINE, line, Base::SC_LINECHARACTERINDEX_UTF16);
-    if (charPos == lineUnits)
-        return lineStart;
-    return send(Base::SCI_POSITIONRELATIVECODEUNITS, lineStart, charPos - lineUnits);
+    return long(index().byteOf(charPos));
 }
 
 QString ScintillaEdit::Text() const
@@ -144,9 +192,6 @@ int ScintillaEdit::SelLength() const
     const long end = send(Base::SCI_GETSELECTIONEND);
     if (start == end)
         return 0;
-    const long line = send(Base::SCI_LINEFROMPOSITION, start);
-    if (line == send(Base::SCI_LINEFROMPOSITION, end))
-        return int(send(Base::SCI_COUNTCODEUNITS, start, end));
     return toChar(end) - toChar(start);
 }
 
@@ -170,10 +215,7 @@ void ScintillaEdit::SetSel(int start, int end)
 
 int ScintillaEdit::GetTextLength() const
 {
-    const long lines = send(Base::SCI_GETLINECOUNT);
-    const long lastStart = send(Base::SCI_POSITIONFROMLINE, lines - 1);
-    return int(send(Base::SCI_INDEXPOSITIONFROMLINE, lines - 1, Base::SC_LINECHARACTERINDEX_UTF16)
-               + send(Base::SCI_COUNTCODEUNITS, lastStart, byteLength()));
+    return int(index().totalUnits());
 }
 
 void ScintillaEdit::GetLineAndCol(int &line, int &column) const
@@ -181,7 +223,7 @@ void ScintillaEdit::GetLineAndCol(int &line, int &column) const
     const long pos = send(Base::SCI_GETSELECTIONSTART);
     const long l = send(Base::SCI_LINEFROMPOSITION, pos);
     line = int(l) + 1;
-    column = int(send(Base::SCI_COUNTCODEUNITS, send(Base::SCI_POSITIONFROMLINE, l), pos)) + 1;
+    column = toChar(pos) - toChar(send(Base::SCI_POSITIONFROMLINE, l)) + 1;
 }
 
 int ScintillaEdit::Find(const QString &text, int start, int end, int options)
@@ -317,6 +359,7 @@ platform::IoResult ScintillaEdit::LoadFile(int, const QString &path)
     m_forcedDirty = false;
     send(Base::SCI_SETSAVEPOINT);
     emit dirtyChanged(false);
+    startColouringAhead(0);
     return {};
 }
 
@@ -367,23 +410,48 @@ void ScintillaEdit::setColorMode(int mode)
 {
     m_colorMode = mode;
     if (mode == platform::ColorOff) {
+        m_colourAhead->stop();
         m_sci->setLexer(nullptr);
         delete m_lexer;
         m_lexer = nullptr;
         return;
     }
     if (!m_lexer) {
-        m_lexer = new QsciLexerHTML(this);
-        m_lexer->setFont(m_sci->font());
+        m_lexer = new HtmlColouring(this);
         m_sci->setLexer(m_lexer);
     }
     applyColors();
+    startColouringAhead(0);
 }
 
 void ScintillaEdit::applyColors()
 {
     if (m_lexer)
-        applyEditColors(*m_lexer, m_colors, m_colorMode == platform::ColorEntireTags);
+        applyEditColors(*m_lexer, m_colors, m_colorMode == platform::ColorEntireTags, m_sci->font());
+}
+
+bool ScintillaEdit::colouringComplete() const
+{
+    return !m_lexer || m_lexer->endStyled() >= byteLength();
+}
+
+void ScintillaEdit::startColouringAhead(int delay)
+{
+    if (m_lexer && !colouringComplete())
+        m_colourAhead->start(delay);
+}
+
+void ScintillaEdit::colourAhead()
+{
+    if (!m_lexer)
+        return;
+    const qint64 sinceChange = QDateTime::currentMSecsSinceEpoch() - m_lastChange;
+    if (sinceChange < kTypingPauseMs) {
+        m_colourAhead->start(int(kTypingPauseMs - sinceChange));
+        return;
+    }
+    m_lexer->styleTo(m_lexer->endStyled() + kColourAheadBytes);
+    startColouringAhead(0);
 }
 
 void ScintillaEdit::ColorHTML()
@@ -391,9 +459,10 @@ void ScintillaEdit::ColorHTML()
     if (!m_lexer)
         return;
     applyColors();
-    // Scintilla styles lazily; recolour what is on screen now and let the rest follow.
+    // What is on screen is coloured now, the rest while the program is idle.
     const long lastVisible = send(Base::SCI_GETFIRSTVISIBLELINE) + send(Base::SCI_LINESONSCREEN) + 1;
-    send(Base::SCI_COLOURISE, 0, send(Base::SCI_GETLINEENDPOSITION, lastVisible));
+    m_lexer->styleTo(send(Base::SCI_GETLINEENDPOSITION, send(Base::SCI_DOCLINEFROMVISIBLE, lastVisible)));
+    startColouringAhead(0);
 }
 
 void ScintillaEdit::InitColor(const platform::ColorTable &colors)
@@ -438,9 +507,15 @@ void ScintillaEdit::SetFontAndSize(const QString &name, int size)
     m_fontSize = size > 0 ? size : 10;
     QFont font(name, m_fontSize);
     font.setStyleHint(QFont::TypeWriter, QFont::PreferMatch);
+    // A family this desktop lacks ("MS Sans Serif" of older settings) is
+    // matched to one face for measuring and another for drawing, which puts
+    // selected text out of place; the desktop's fixed font stands in for it.
+    if (!QFontDatabase::hasFamily(name)) {
+        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        font.setPointSize(m_fontSize);
+    }
     m_sci->setFont(font);
-    if (m_lexer)
-        m_lexer->setFont(font);
+    applyColors();
 }
 
 bool ScintillaEdit::WordWrap() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/TextCodec.h"
+#include "documents/Utf16Index.h"
 #include "platform/HTMLEdit.h"
 
 #include <QKeySequence>
@@ -8,9 +9,11 @@
 #include <QObject>
 
 class QsciScintilla;
-class QsciLexerHTML;
+class QTimer;
 
 namespace qly::documents::ui {
+
+class HtmlColouring;
 
 // The document's edit control: a Scintilla view behind the buffer interface.
 // Scintilla holds the text as UTF-8 and counts bytes; this class speaks in
@@ -64,6 +67,9 @@ public:
     void SetFocus() override;
 
     core::TextEncoding encoding() const { return m_encoding; }
+    HtmlColouring *colouring() const { return m_lexer; }
+    // True once every byte of the page is coloured (or colouring is off).
+    bool colouringComplete() const;
     // Gives keys that the editor's commands use back to those commands:
     // the control's own binding of each is dropped.
     void releaseKeys(const QList<QKeySequence> &keys);
@@ -78,14 +84,23 @@ private:
     long send(unsigned int msg, unsigned long w = 0, long l = 0) const;
     const char *bytes() const;
     long byteLength() const;
+    Utf16Index &index() const;
     int toChar(long bytePos) const;
     long toByte(int charPos) const;
-    bool plainAscii() const;
     void applyColors();
+    void colourAhead();
+    void startColouringAhead(int delay);
     int findFolded(const QString &text, int start, int end, int options);
 
     QsciScintilla *m_sci = nullptr;
-    QsciLexerHTML *m_lexer = nullptr;
+    HtmlColouring *m_lexer = nullptr;
+    // Character positions of the bytes, kept up to date with each change.
+    mutable Utf16Index m_index;
+    mutable std::pair<long, long> m_pendingInsert;
+    // Colours the page past the screen a piece at a time once typing pauses.
+    QTimer *m_colourAhead = nullptr;
+    qint64 m_lastChange = 0;
+    long m_caretLine = 0;
     core::TextEncoding m_encoding = core::TextEncoding::Utf8;
     bool m_forcedDirty = false;
     int m_colorMode = platform::ColorOff;

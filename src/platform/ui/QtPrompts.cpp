@@ -156,6 +156,16 @@ std::optional<QString> QtPrompts::inputText(const QString &title, const QString 
     return text;
 }
 
+std::optional<QString> QtPrompts::inputPassword(const QString &title, const QString &prompt)
+{
+    CursorPause pause(m_busy);
+    bool ok = false;
+    const QString text = QInputDialog::getText(m_parent, title, prompt, QLineEdit::Password, QString(), &ok);
+    if (!ok)
+        return std::nullopt;
+    return text;
+}
+
 void QtPrompts::setBusy(bool busy)
 {
     if (busy == m_busy)

@@ -19,6 +19,7 @@ public:
     QString chooseDirectory(const QString &title, const QString &start) override;
     std::optional<QString> inputText(const QString &title, const QString &prompt,
                                      const QString &initial) override;
+    std::optional<QString> inputPassword(const QString &title, const QString &prompt) override;
     void setBusy(bool busy) override;
 
 private:

@@ -115,7 +115,8 @@ void SpellUnderline::underline(QsciScintilla *view)
         m_checkerFor = files.dic;
         m_known.clear();
         if (m_checker) {
-            for (const QString &w : CustomDictionary(CustomDictionaryPath()).words())
+            const CustomDictionary custom(CustomDictionaryPath());
+            for (const QString &w : custom.words())
                 m_checker->accept(w);
         }
     }

@@ -147,6 +147,9 @@ platform::HTMLEdit *frmFind::currentEdit() const
 void frmFind::showGuise(const QString &guise)
 {
     m_model.setGuise(guise);
+    // The histories of earlier sessions.
+    fillHistory(m_cmbFind, m_model.findHistory());
+    fillHistory(m_cmbReplace, m_model.replaceHistory());
     // A selection within one line is what the user wants to look for.
     if (platform::HTMLEdit *edit = currentEdit()) {
         const QString sel = edit->SelText();

@@ -17,6 +17,7 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <QAction>
+#include <QFontDatabase>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -39,6 +40,7 @@ private slots:
     void recentEntriesInTheFileMenu();
     void startupDocumentAndTimer();
     void droppedFiles();
+    void fontTheDesktopLacks();
 
 private:
     std::unique_ptr<test::TestEnv> m_env;
@@ -177,6 +179,26 @@ void tst_FileWindow::droppedFiles()
     QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<BODY><IMG SRC=\"img/logo.gif\"></BODY>"));
     QVERIFY(doc->txtDoc().Dirty());
     QCOMPARE(m_window->documentList().size(), 1);
+}
+
+void tst_FileWindow::fontTheDesktopLacks()
+{
+    // Older settings name "MS Sans Serif", which Linux desktops lack; the
+    // face matched for it is measured one way and drawn another, so the
+    // desktop's fixed font stands in. The setting itself is kept.
+    documents::Document *doc = documents::CreateDocumentWindow();
+    core::gLoadingDocument = false;
+    auto *window = dynamic_cast<documents::ui::DocumentWindow *>(doc);
+    QVERIFY(!QFontDatabase::hasFamily(QStringLiteral("MS Sans Serif")));
+    doc->txtDoc().SetFontAndSize(QStringLiteral("MS Sans Serif"), 12);
+    QCOMPARE(doc->txtDoc().FontName(), QStringLiteral("MS Sans Serif"));
+    const QFont shown = window->edit()->view()->font();
+    QCOMPARE(shown.family(), QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    QCOMPARE(shown.pointSize(), 12);
+    // A family the desktop has is used as it is.
+    const QString present = QFontDatabase::families().value(0);
+    doc->txtDoc().SetFontAndSize(present, 11);
+    QCOMPARE(window->edit()->view()->font().family(), present);
 }
 
 QTEST_MAIN(tst_FileWindow)

@@ -18,6 +18,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QDir>
+#include <QProcess>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QtTest>
@@ -35,6 +37,7 @@ private slots:
     void findGuiseTypedAndF3();
     void replaceGuiseWithRegex();
     void multiFileDialogFindsFiles();
+    void dialogAndCommandLineAgree();
 
 private:
     frmFind *dialog() const { return m_main->findChild<frmFind *>(); }
@@ -187,6 +190,63 @@ void tst_frmFind::multiFileDialogFindsFiles()
     QTest::mouseClick(g->filesFound()->findChild<QPushButton *>(QStringLiteral("btnOpen")), Qt::LeftButton);
     QTRY_VERIFY(m_main->activeDocument());
     QCOMPARE(m_main->activeDocument()->txtDoc().Text(), QStringLiteral("Hello"));
+}
+
+void tst_frmFind::dialogAndCommandLineAgree()
+{
+    // The same site twice: the dialog works on one copy, quillery-cli on the
+    // other, with the same entries and terms; the lists and the rewritten
+    // files must be the same.
+    const QList<std::pair<const char *, QByteArray>> pages = {
+        {"a.htm", "Hello"}, {"b.html", "hello"}, {"c.htm", "bye\r\n"},
+        {"d.htm", "say HELLO, then hello\r\nand Caf\xc3\xa9"}, {"e.htm", "Caf\xe9 hello"}, {"f.txt", "hello"}};
+    for (const char *copy : {"ui", "cli"}) {
+        for (const auto &[name, bytes] : pages)
+            m_env->write(QStringLiteral("%1/%2").arg(QLatin1String(copy), QLatin1String(name)), bytes);
+    }
+    if (!QFileInfo::exists(m_env->ini()))
+        m_env->write(QStringLiteral("quillery.ini"), "");
+    auto cli = [&](const QStringList &arguments) {
+        QProcess p;
+        p.start(QStringLiteral(PROGRAM_DATA_DIR "/quillery-cli"), QStringList{QStringLiteral("--ini"), m_env->ini()} + arguments);
+        p.waitForFinished(60000);
+        return QString::fromLocal8Bit(p.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    };
+    QVERIFY(m_main->commands().run(QStringLiteral("EditMFReplace")));
+    frmGrep *g = m_main->findChild<frmGrep *>();
+    g->addEntry(m_env->path(QStringLiteral("ui/*.htm")));
+    g->addEntry(m_env->path(QStringLiteral("ui/*.txt")));
+    g->grid()->setCurrentCell(0, 0);
+    for (const QString &term : {QStringLiteral("HELLO"), QStringLiteral("Howdy")}) {
+        QTest::keyClicks(g->termField(), term);
+        QTest::mouseClick(g->findChild<QPushButton *>(QStringLiteral("cmdOptions")), Qt::LeftButton);
+        g->termField()->clear();
+    }
+    QTest::mouseClick(g->findChild<QPushButton *>(QStringLiteral("btnFind")), Qt::LeftButton);
+    QTRY_VERIFY(g->filesFound()->isVisible());
+    QStringList shown;
+    for (int i = 0; i < g->filesFound()->list()->count(); ++i) {
+        const QString line = g->filesFound()->list()->item(i)->text();
+        if (!line.isEmpty() && !line.startsWith(u'-'))
+            shown << QDir(m_env->path(QStringLiteral("ui"))).relativeFilePath(line);
+    }
+    QStringList printed;
+    for (const QString &line : cli({QStringLiteral("find"), QStringLiteral("-e"), QStringLiteral("HELLO"),
+                                    m_env->path(QStringLiteral("cli/*.htm")), m_env->path(QStringLiteral("cli/*.txt"))}))
+        printed << QDir(m_env->path(QStringLiteral("cli"))).relativeFilePath(line);
+    QCOMPARE(shown, (QStringList{QStringLiteral("a.htm"), QStringLiteral("d.htm"), QStringLiteral("e.htm"), QStringLiteral("f.txt")}));
+    QCOMPARE(printed, shown);
+
+    QTest::mouseClick(g->findChild<QPushButton *>(QStringLiteral("btnReplace")), Qt::LeftButton);
+    QTRY_VERIFY(m_prompts->texts().contains(QStringLiteral("5 replacements made\r\n\r\n5 files processed.")));
+    cli({QStringLiteral("replace"), QStringLiteral("-e"), QStringLiteral("HELLO"), QStringLiteral("Howdy"),
+         m_env->path(QStringLiteral("cli/*.htm")), m_env->path(QStringLiteral("cli/*.txt"))});
+    for (const auto &[name, bytes] : pages) {
+        const QString n = QLatin1String(name);
+        QCOMPARE(m_env->read(QStringLiteral("ui/") + n), m_env->read(QStringLiteral("cli/") + n));
+    }
+    QCOMPARE(m_env->read(QStringLiteral("ui/e.htm")), QByteArray("Caf\xe9 Howdy"));
+    QCOMPARE(m_env->read(QStringLiteral("ui/b.html")), QByteArray("hello"));
 }
 
 QTEST_MAIN(tst_frmFind)

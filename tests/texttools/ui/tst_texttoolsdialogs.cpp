@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 #include "core/Feedback.h"
 #include "core/Globals.h"
+#include "core/Settings.h"
 #include "core/ui/CommandTable.h"
 #include "documents/DocumentList.h"
 #include "documents/ui/DocumentWindow.h"
@@ -39,6 +40,7 @@ private slots:
     void init() { QStandardPaths::setTestModeEnabled(true); }
     void convertDialog();
     void spellerDialog();
+    void spellerSwitchesDictionaryMidCheck();
 
 private:
     platform::HTMLEdit *openDocument(app::frmMain &w, const QString &text);
@@ -100,8 +102,10 @@ void tst_TextToolsDialogs::spellerDialog()
     QTRY_VERIFY(underlined(20));
     QVERIFY(underlined(28) && underlined(34) && !underlined(10) && !underlined(24) && !underlined(32));
     QStringList shownWords;
+    QList<std::pair<int, QString>> selected;
     // Answers each question of the dialog as a user does: the first word is
-    // changed everywhere to the first suggestion, the second ignored.
+    // changed everywhere to a longer word, the second ignored. The word asked
+    // about is selected in the document, where it stands there.
     std::function<void()> answer = [&] {
         auto *speller = qobject_cast<texttools::ui::frmSpeller *>(QApplication::activeModalWidget());
         if (!speller) {
@@ -109,10 +113,13 @@ void tst_TextToolsDialogs::spellerDialog()
             return;
         }
         shownWords << child<QLineEdit>(speller, "txtWord")->text();
+        selected << std::pair{edit->SelStart(), edit->SelText()};
         const bool first = shownWords.size() == 1;
-        if (first)
+        if (first) {
             QCOMPARE(child<QLineEdit>(speller, "txtChange")->text(),
                      child<QListWidget>(speller, "lstSuggest")->item(0)->text());
+            child<QLineEdit>(speller, "txtChange")->setText(QStringLiteral("thee"));
+        }
         child<QPushButton>(speller, first ? "cmdChangeAll" : "cmdIgnore")->click();
         if (first)
             QTimer::singleShot(20, answer);
@@ -120,7 +127,52 @@ void tst_TextToolsDialogs::spellerDialog()
     QTimer::singleShot(20, answer);
     QVERIFY(w.commands().run(QStringLiteral("ToolsSpellCheck")));
     QCOMPARE(shownWords, QStringList({QStringLiteral("teh"), QStringLiteral("wrold")}));
-    QCOMPARE(edit->Text(), QStringLiteral("<A HREF=\"teh.html\">the</A> wrold the"));
+    QCOMPARE(selected, (QList<std::pair<int, QString>>{{19, QStringLiteral("teh")}, {27, QStringLiteral("wrold")}}));
+    QCOMPARE(edit->Text(), QStringLiteral("<A HREF=\"teh.html\">thee</A> wrold thee"));
+    // The whole check is one step back.
+    edit->Undo();
+    QCOMPARE(edit->Text(), QStringLiteral("<A HREF=\"teh.html\">teh</A> wrold teh"));
+    documents::Workspace::setInstance(nullptr);
+}
+
+void tst_TextToolsDialogs::spellerSwitchesDictionaryMidCheck()
+{
+    // A second dictionary beside the program that knows "teh" and "zork":
+    // chosen while "teh" is asked about, it lets "teh" pass at once, and the
+    // check goes on with it from there.
+    test::TestEnv env;
+    test::ScriptedPrompts prompts;
+    env.write(QStringLiteral("dictionaries/xx_XX.aff"), "SET UTF-8\n");
+    env.write(QStringLiteral("dictionaries/xx_XX.dic"), "2\nteh\nzork\n");
+    app::frmMain w;
+    platform::HTMLEdit *edit = openDocument(w, QStringLiteral("<P>teh zork blorp</P>"));
+    QStringList asked;
+    QStringList dictionaries;
+    std::function<void()> answer = [&] {
+        auto *speller = qobject_cast<texttools::ui::frmSpeller *>(QApplication::activeModalWidget());
+        if (!speller) {
+            QTimer::singleShot(20, answer);
+            return;
+        }
+        auto *combo = child<QComboBox>(speller, "cmbDictionary");
+        asked << child<QLineEdit>(speller, "txtWord")->text();
+        dictionaries << combo->currentText();
+        if (asked.size() == 1) {
+            const int other = combo->findText(QStringLiteral("xx_XX"));
+            QVERIFY(other >= 0);
+            combo->setCurrentIndex(other);
+            emit combo->activated(other);   // as a choice with the mouse does
+            QTimer::singleShot(20, answer);
+            return;
+        }
+        child<QPushButton>(speller, "cmdIgnore")->click();
+    };
+    QTimer::singleShot(20, answer);
+    QVERIFY(w.commands().run(QStringLiteral("ToolsSpellCheck")));
+    QCOMPARE(asked, (QStringList{QStringLiteral("teh"), QStringLiteral("blorp")}));
+    QCOMPARE(dictionaries, (QStringList{QStringLiteral("en_US"), QStringLiteral("xx_XX")}));
+    QCOMPARE(core::ReadSetting(QStringLiteral("General"), QStringLiteral("Standard Dictionary")), QStringLiteral("xx_XX"));
+    QCOMPARE(edit->Text(), QStringLiteral("<P>teh zork blorp</P>"));
     documents::Workspace::setInstance(nullptr);
 }
 

@@ -1,0 +1,5 @@
+<SCRIPT LANGUAGE="JavaScript">
+<!--
+document.write("Last updated: " + document.lastModified);
+//-->
+</SCRIPT>

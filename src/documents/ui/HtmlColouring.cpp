@@ -1,0 +1,170 @@
+#include "documents/ui/HtmlColouring.h"
+
+#include "documents/KnownWords.h"
+
+#include <Qsci/qsciscintilla.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace qly::documents::ui {
+
+using Base = QsciScintillaBase;
+using I = std::int64_t;
+
+namespace {
+
+// The distance between two remembered states of the lexer.
+constexpr I kCheckpointEvery = 32 * 1024;
+// How far past the range asked for the lexer may read to finish a token.
+constexpr I kReadAhead = 1024 * 1024;
+
+// Collects the styles of one run of the lexer and hands them to Scintilla:
+// the range asked for in one piece, and repaints of earlier bytes (a value
+// found unfinished) as they come.
+class ScintillaSink final : public StyleSink
+{
+public:
+    ScintillaSink(QsciScintilla *sci, I keepFrom) : m_sci(sci), m_from(keepFrom) {}
+
+    void paint(I from, I to, std::uint8_t style) override
+    {
+        if (to <= m_from)
+            return;   // bytes before the change keep the styles they have
+        if (from < m_from) {
+            flushEarlier(from, m_from, style);
+            from = m_from;
+        }
+        const size_t end = size_t(to - m_from);
+        if (m_styles.size() < end)
+            m_styles.resize(end, 0);
+        std::memset(m_styles.data() + (from - m_from), style, size_t(to - from));
+    }
+
+    void commit()
+    {
+        if (m_styles.empty())
+            return;
+        m_sci->SendScintilla(Base::SCI_STARTSTYLING, uintptr_t(m_from));
+        m_sci->SendScintilla(Base::SCI_SETSTYLINGEX, uintptr_t(m_styles.size()), m_styles.data());
+    }
+
+private:
+    void flushEarlier(I from, I to, std::uint8_t style)
+    {
+        m_sci->SendScintilla(Base::SCI_STARTSTYLING, uintptr_t(from));
+        m_sci->SendScintilla(Base::SCI_SETSTYLING, uintptr_t(to - from), long(style));
+    }
+
+    QsciScintilla *m_sci;
+    I m_from;
+    std::vector<char> m_styles;
+};
+
+} // namespace
+
+HtmlColouring::HtmlColouring(QObject *parent)
+    : QsciLexerCustom(parent)
+{
+}
+
+QString HtmlColouring::description(int style) const
+{
+    static const char *const names[HtmlStyle::Count] = {
+        "Text", "Tag", "Attribute", "Value", "Unfinished value", "Unknown tag", "Comment", "Script text",
+        "Script statement", "Script object", "Script method", "Script property", "Script string",
+        "Script comment", "Style sheet", "Declaration",
+    };
+    return (style >= 0 && style < HtmlStyle::Count) ? QString::fromLatin1(names[style]) : QString();
+}
+
+void HtmlColouring::setEditor(QsciScintilla *editor)
+{
+    if (QsciScintilla *old = this->editor())
+        disconnect(old, nullptr, this, nullptr);
+    QsciLexerCustom::setEditor(editor);
+    m_checkpoints.clear();
+    if (editor) {
+        connect(editor, &QsciScintillaBase::SCN_MODIFIED, this,
+                [this](int position, int type, const char *, int, int, int, int, int, int, int) {
+                    textChanged(position, type);
+                });
+    }
+}
+
+void HtmlColouring::textChanged(int position, int modificationType)
+{
+    if (!(modificationType & (Base::SC_MOD_BEFOREINSERT | Base::SC_MOD_BEFOREDELETE | Base::SC_MOD_INSERTTEXT
+                              | Base::SC_MOD_DELETETEXT)))
+        return;
+    // Decisions look a few bytes ahead: a state just before the change may
+    // rest on bytes that changed.
+    const I valid = I(position) - kLookahead;
+    const auto cut = std::upper_bound(m_checkpoints.begin(), m_checkpoints.end(), valid,
+                                      [](I pos, const auto &cp) { return pos < cp.first; });
+    m_checkpoints.erase(cut, m_checkpoints.end());
+}
+
+std::pair<I, LexState> HtmlColouring::restartBefore(I position) const
+{
+    const auto it = std::upper_bound(m_checkpoints.begin(), m_checkpoints.end(), position,
+                                     [](I pos, const auto &cp) { return pos < cp.first; });
+    if (it == m_checkpoints.begin())
+        return {0, LexState()};
+    return *std::prev(it);
+}
+
+long HtmlColouring::endStyled() const
+{
+    return editor() ? editor()->SendScintilla(Base::SCI_GETENDSTYLED) : 0;
+}
+
+void HtmlColouring::restyleAll()
+{
+    m_checkpoints.clear();
+    if (editor())
+        editor()->SendScintilla(Base::SCI_STARTSTYLING, uintptr_t(0));
+}
+
+void HtmlColouring::styleText(int, int end)
+{
+    // Scintilla offers the start of the line that holds the first byte not
+    // styled; on a page of one line that is the page's start. Styling goes
+    // on from that byte instead.
+    styleTo(end);
+}
+
+void HtmlColouring::styleTo(long end)
+{
+    QsciScintilla *sci = editor();
+    if (!sci)
+        return;
+    if (m_wordsGeneration != knownWordsGeneration()) {
+        m_wordsGeneration = knownWordsGeneration();
+        restyleAll();
+    }
+    const I length = sci->SendScintilla(Base::SCI_GETLENGTH);
+    const I from = endStyled();
+    end = std::min<I>(end, length);
+    if (from >= end)
+        return;
+    auto [pos, state] = restartBefore(from);
+    // The bytes from the restart point are read in one piece, with room for
+    // the lexer to finish a token past the end; Scintilla moves its gap only
+    // when it lies inside them, and then only to their start.
+    const I readable = std::min<I>(length, end + kReadAhead);
+    const char *text = reinterpret_cast<const char *>(
+                           sci->SendScintilla(Base::SCI_GETRANGEPOINTER, uintptr_t(pos), long(readable - pos)))
+                       - pos;
+    ScintillaSink sink(sci, std::max<I>(from - kLookahead, pos));
+    const KnownWords &words = knownWords();
+    while (pos < end) {
+        const I step = std::min<I>(end, (pos / kCheckpointEvery + 1) * kCheckpointEvery);
+        pos = lexHtml(text, readable, readable == length, pos, step, state, sink, words);
+        if (m_checkpoints.empty() || m_checkpoints.back().first < pos)
+            m_checkpoints.emplace_back(pos, state);
+    }
+    sink.commit();
+}
+
+} // namespace qly::documents::ui

@@ -1,0 +1,103 @@
+#include "generators/ui/PreviewPane.h"
+
+#include "core/Settings.h"
+#include "generators/TableFramePreview.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+#include <algorithm>
+
+namespace qly::generators::ui {
+
+PreviewPane::PreviewPane(std::function<QString()> page, QWidget *parent) : QWidget(parent), m_page(std::move(page))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_message = new QLabel(this);
+    m_message->hide();
+    layout->addWidget(m_message);
+    const int seconds = QStringView(core::ReadSetting(QStringLiteral("Display"), QStringLiteral("Scout Refresh"))).trimmed().toInt();
+    m_timer.setInterval(std::clamp(seconds, 1, 60) * 1000);
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, [this] { refreshNow(); });
+}
+
+PreviewPane::~PreviewPane()
+{
+    if (!m_path.isEmpty())
+        QFile::remove(m_path);
+}
+
+void PreviewPane::setLive(bool live)
+{
+    if (live && !m_view) {
+        m_view = new QWebEngineView(this);
+        m_view->setMinimumHeight(60);
+        layout()->addWidget(m_view);
+        refreshNow();
+    } else if (!live && m_view) {
+        delete m_view;
+        m_view = nullptr;
+    }
+}
+
+void PreviewPane::changed()
+{
+    m_timer.start();
+}
+
+bool PreviewPane::refreshNow()
+{
+    m_timer.stop();
+    // One file for the dialog's life, removed when it closes.
+    if (m_path.isEmpty())
+        m_path = PreviewPagePath();
+    const core::IoResult written = WritePreviewPage(m_path, m_page());
+    m_message->setVisible(!written.ok());
+    if (!written.ok()) {
+        m_message->setText(QStringLiteral("The preview could not be written: ") + written.message);
+        return false;
+    }
+    if (m_view) {
+        const QUrl url = QUrl::fromLocalFile(m_path);
+        if (m_view->url() == url)
+            m_view->reload();
+        else
+            m_view->setUrl(url);
+    }
+    return true;
+}
+
+void fitToScreen(QWidget *dialog, const QSize &preferred)
+{
+    const QScreen *screen = dialog->parentWidget() ? dialog->parentWidget()->screen() : QGuiApplication::primaryScreen();
+    QSize size = preferred;
+    if (screen)
+        size = size.boundedTo(screen->availableGeometry().size() * 0.95);
+    dialog->resize(size.expandedTo(dialog->minimumSizeHint()));
+}
+
+QWidget *scrolledPanel(QLayout *fields, QWidget *parent)
+{
+    auto *inside = new QWidget;
+    inside->setLayout(fields);
+    fields->setContentsMargins(0, 0, 0, 0);
+    auto *area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(inside);
+    area->setMinimumWidth(inside->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    area->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    return area;
+}
+
+} // namespace qly::generators::ui

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+class QLabel;
+class QLayout;
+class QWebEngineView;
+
+namespace qly::generators::ui {
+
+// The live preview of a generator dialog: after each change, once the
+// dialog has been idle for [Display] "Scout Refresh" seconds (1 when unset),
+// the page is written beside the current document and shown. The browser
+// is made only when the pane is switched on, so dialogs work without it.
+class PreviewPane final : public QWidget
+{
+    Q_OBJECT
+public:
+    // `page` gives the whole page to show.
+    explicit PreviewPane(std::function<QString()> page, QWidget *parent = nullptr);
+    ~PreviewPane() override;
+
+    void setLive(bool live);
+    bool live() const { return m_view != nullptr; }
+    // The browser while the pane is live, else null.
+    QWebEngineView *view() const { return m_view; }
+    // Something changed: the refresh timer starts again.
+    void changed();
+    // Writes the page at once and shows it; false when it could not be written.
+    bool refreshNow();
+    QString pagePath() const { return m_path; }
+    int refreshInterval() const { return m_timer.interval(); }
+
+private:
+    std::function<QString()> m_page;
+    QWebEngineView *m_view = nullptr;
+    QLabel *m_message = nullptr;
+    QTimer m_timer;
+    QString m_path;
+};
+
+// Gives a generator dialog its preferred size, or as much of it as the
+// screen has room for.
+void fitToScreen(QWidget *dialog, const QSize &preferred);
+
+// The fields of a dialog in a panel that scrolls when the screen is too
+// small for them (large fonts, a doubled scale).
+QWidget *scrolledPanel(QLayout *fields, QWidget *parent);
+
+} // namespace qly::generators::ui

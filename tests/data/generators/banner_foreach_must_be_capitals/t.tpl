@@ -1,0 +1,1 @@
+N=%QLNumOfAds%;%foreach%x%endforeach%tail

@@ -1,0 +1,3 @@
+N=%QLNumOfAds%;
+%FOREACH%[%num%:%ImageUrl%>%URL%%IMAGETEXT%]
+%ENDFOREACH%end

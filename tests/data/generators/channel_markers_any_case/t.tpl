@@ -1,0 +1,1 @@
+%url% %NAME% %name% %Interval% %cachesize% %Depth% %Active% %MODE% %Type% %ButtonName%

@@ -1,0 +1,1 @@
+<SCRIPT>var m = "%message%";</SCRIPT>

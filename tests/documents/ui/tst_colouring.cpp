@@ -1,0 +1,188 @@
+#include "documents/HtmlLexer.h"
+#include "documents/KnownWords.h"
+#include "documents/ui/EditColors.h"
+#include "documents/ui/HtmlColouring.h"
+#include "documents/ui/ScintillaEdit.h"
+#include "support/TestEnv.h"
+
+#include <Qsci/qsciscintilla.h>
+
+#include <QRandomGenerator>
+#include <QtTest>
+
+using namespace qly;
+using documents::ui::ScintillaEdit;
+namespace S = documents::HtmlStyle;
+using Base = QsciScintillaBase;
+
+class tst_Colouring : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void editsRecolourAsAWholeLexWould();
+    void modesAndColours();
+    void knownWordsChangeRecolours();
+    void colouringGoesOnWhileIdle();
+
+private:
+    QByteArray styles() const;
+    QByteArray freshStyles() const;
+    void styleAll();
+
+    std::unique_ptr<test::TestEnv> m_env;
+    std::unique_ptr<QWidget> m_host;
+    ScintillaEdit *m_edit = nullptr;
+};
+
+namespace {
+
+struct Collect final : documents::StyleSink {
+    explicit Collect(qsizetype n) : bytes(n, '\0') {}
+    void paint(std::int64_t from, std::int64_t to, std::uint8_t style) override
+    {
+        std::fill(bytes.begin() + from, bytes.begin() + to, char(style));
+    }
+    QByteArray bytes;
+};
+
+QColor fromTable(int v)
+{
+    return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF);
+}
+
+} // namespace
+
+void tst_Colouring::init()
+{
+    m_env = std::make_unique<test::TestEnv>();
+    documents::KnownWords words;
+    for (const char *t : {"p", "b", "a", "div", "script"})
+        words.tags.insert(t);
+    words.scriptWords.insert("alert", documents::ScriptWordClass::Method);
+    documents::setKnownWords(words);
+    m_host = std::make_unique<QWidget>();
+    m_edit = new ScintillaEdit(m_host.get());
+    m_edit->view()->resize(500, 300);
+    m_host->show();
+    m_edit->setColorMode(platform::ColorTagSyntax);
+}
+
+void tst_Colouring::cleanup()
+{
+    m_host.reset();
+    m_env.reset();
+}
+
+QByteArray tst_Colouring::styles() const
+{
+    QsciScintilla *sci = m_edit->view();
+    const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
+    QByteArray out(n, '\0');
+    for (long i = 0; i < n; ++i)
+        out[i] = char(sci->SendScintilla(Base::SCI_GETSTYLEAT, i));
+    return out;
+}
+
+QByteArray tst_Colouring::freshStyles() const
+{
+    const QByteArray page = m_edit->view()->text().toUtf8();
+    Collect c(page.size());
+    documents::LexState state;
+    documents::lexHtml(page.constData(), page.size(), true, 0, page.size(), state, c, documents::knownWords());
+    return c.bytes;
+}
+
+void tst_Colouring::styleAll()
+{
+    m_edit->colouring()->styleTo(m_edit->view()->SendScintilla(Base::SCI_GETLENGTH));
+}
+
+void tst_Colouring::editsRecolourAsAWholeLexWould()
+{
+    // One long line, edited here and there: what the colouring keeps from
+    // before each edit and what it redoes must match a lex of the whole page.
+    QByteArray page;
+    for (int i = 0; i < 4000; ++i)
+        page += "<p class=\"c\">text <b>bold</b> <!-- note --> <script>alert('x')</script> ";
+    m_edit->setText(QString::fromUtf8(page));
+    styleAll();
+    QCOMPARE(styles(), freshStyles());
+
+    QRandomGenerator rng(99);
+    const char *const inserts[] = {"<", ">", "\"", "'", "-->", "<!--", "</script>", "<script>", " ", "b", "=", "/*"};
+    QsciScintilla *sci = m_edit->view();
+    for (int round = 0; round < 60; ++round) {
+        const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
+        const long at = rng.bounded(int(n));
+        if (rng.bounded(3) == 0) {
+            sci->SendScintilla(Base::SCI_DELETERANGE, at, std::min<long>(1 + rng.bounded(12), n - at));
+        } else {
+            const char *text = inserts[rng.bounded(int(std::size(inserts)))];
+            sci->SendScintilla(Base::SCI_INSERTTEXT, uintptr_t(at), text);
+        }
+        // The screen asks for a little; the rest follows.
+        m_edit->colouring()->styleTo(at + 100);
+        styleAll();
+        QVERIFY2(styles() == freshStyles(), qPrintable(QStringLiteral("round %1 at %2").arg(round).arg(at)));
+    }
+}
+
+void tst_Colouring::modesAndColours()
+{
+    platform::ColorTable table;
+    table.fill(-1);
+    table[0] = 0x0000FF;     // tags red
+    table[1] = 0x00FF00;     // attributes green
+    table[11] = 0xFF0000;    // errors blue
+    m_edit->InitColor(table);
+    m_edit->setText(QStringLiteral("<p align=left><blink>x</blink>"));
+    m_edit->ColorHTML();
+    auto *lexer = m_edit->colouring();
+    QCOMPARE(lexer->color(S::Tag), fromTable(table[0]));
+    QCOMPARE(lexer->color(S::Attribute), fromTable(table[1]));
+    QCOMPARE(lexer->color(S::ErrorTag), fromTable(table[11]));
+    QCOMPARE(lexer->color(S::Value), documents::ui::defaultSlotColor(3));
+    QCOMPARE(m_edit->view()->SendScintilla(Base::SCI_GETSTYLEAT, 16), long(S::ErrorTag));
+
+    // Entire tags: one colour for all of a tag.
+    m_edit->setColorMode(platform::ColorEntireTags);
+    for (int style : {S::Tag, S::Attribute, S::Value, S::Unfinished, S::ErrorTag})
+        QCOMPARE(lexer->color(style), fromTable(table[0]));
+    QCOMPARE(m_edit->colouring(), lexer);
+
+    m_edit->setColorMode(platform::ColorOff);
+    QVERIFY(!m_edit->colouring());
+    QVERIFY(!m_edit->view()->lexer());
+    QVERIFY(m_edit->colouringComplete());
+}
+
+void tst_Colouring::knownWordsChangeRecolours()
+{
+    m_edit->setText(QStringLiteral("<blink>x</blink>"));
+    m_edit->ColorHTML();
+    QsciScintilla *sci = m_edit->view();
+    QCOMPARE(sci->SendScintilla(Base::SCI_GETSTYLEAT, 1), long(S::ErrorTag));
+    documents::KnownWords words = documents::knownWords();
+    words.tags.insert("blink");
+    documents::setKnownWords(words);
+    m_edit->ColorHTML();
+    QCOMPARE(sci->SendScintilla(Base::SCI_GETSTYLEAT, 1), long(S::Tag));
+}
+
+void tst_Colouring::colouringGoesOnWhileIdle()
+{
+    QByteArray page;
+    while (page.size() < 3 * 1024 * 1024)
+        page += "<div class=\"row\"><a href=\"x.html\">link</a></div>\r\n";
+    page += "<blink>end</blink>";
+    m_env->write(QStringLiteral("big.html"), page);
+    QVERIFY(m_edit->LoadFile(1, m_env->path(QStringLiteral("big.html"))).ok());
+    QVERIFY(!m_edit->colouringComplete());
+    QTRY_VERIFY_WITH_TIMEOUT(m_edit->colouringComplete(), 10000);
+    QCOMPARE(m_edit->view()->SendScintilla(Base::SCI_GETSTYLEAT, uintptr_t(page.size() - 15)), long(S::ErrorTag));
+}
+
+QTEST_MAIN(tst_Colouring)
+#include "tst_colouring.moc"

@@ -1,0 +1,109 @@
+// The live previews of the table and frame editors in a real browser
+// engine (under Xvfb: the engine does not run on the offscreen platform).
+#include "app/MainWindow.h"
+#include "core/Settings.h"
+#include "documents/Document.h"
+#include "documents/DocumentList.h"
+#include "generators/ui/PreviewPane.h"
+#include "generators/ui/frmFrame.h"
+#include "generators/ui/frmTable.h"
+#include "platform/HTMLEdit.h"
+#include "support/MainWindowHost.h"
+#include "support/ScriptedPrompts.h"
+#include "support/TestEnv.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QWebEnginePage>
+#include <QWebEngineView>
+#include <QtTest>
+
+using namespace qly;
+using generators::TableModel;
+
+namespace {
+
+// The value of a script run in the page, once it has answered.
+QVariant evaluate(QWebEngineView *view, const QString &script)
+{
+    QVariant result;
+    bool done = false;
+    view->page()->runJavaScript(script, [&](const QVariant &value) {
+        result = value;
+        done = true;
+    });
+    for (int waited = 0; !done && waited < 20000; waited += 20)
+        QTest::qWait(20);
+    return done ? result : QVariant(QStringLiteral("no answer"));
+}
+
+} // namespace
+
+class tst_GeneratorPreview : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void tablePreviewFollowsTheFields();
+    void framePreviewShowsTheLayout();
+
+private:
+    std::unique_ptr<test::TestEnv> m_env;
+    std::unique_ptr<test::ScriptedPrompts> m_prompts;
+    std::unique_ptr<app::frmMain> m_main;
+};
+
+void tst_GeneratorPreview::init()
+{
+    m_env = std::make_unique<test::TestEnv>();
+    m_prompts = std::make_unique<test::ScriptedPrompts>();
+    core::WriteSetting(QStringLiteral("Display"), QStringLiteral("Scout Refresh"), QStringLiteral("1"));
+    m_main = test::showMainWindow();
+    const QString file = m_env->write(QStringLiteral("page.html"), "<TABLE><TR><TD>a</TD><TD>b</TD></TR>"
+                                                                   "<TR><TD>c</TD><TD>d</TD></TR></TABLE>");
+    QVERIFY(documents::OpenDocumentFile(file));
+    platform::HTMLEdit &e = m_main->activeDocument()->txtDoc();
+    e.SetSel(0, e.GetTextLength());
+}
+
+void tst_GeneratorPreview::cleanup()
+{
+    test::closeMainWindow(m_main);
+    m_prompts.reset();
+    m_env.reset();
+}
+
+void tst_GeneratorPreview::tablePreviewFollowsTheFields()
+{
+    generators::ui::frmTable dialog(m_main.get(), true);
+    dialog.show();
+    QWebEngineView *view = dialog.preview()->view();
+    QVERIFY(view);
+    QSignalSpy loaded(view, &QWebEngineView::loadFinished);
+    QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
+    QCOMPARE(evaluate(view, QStringLiteral("document.querySelectorAll('td').length")).toInt(), 4);
+
+    // A caption typed in shows after the idle second.
+    QTest::keyClicks(dialog.field(TableModel::Caption), QStringLiteral("Prices"));
+    QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 2, 30000);
+    QCOMPARE(evaluate(view, QStringLiteral("document.querySelector('caption').textContent")).toString(),
+             QStringLiteral("Prices"));
+}
+
+void tst_GeneratorPreview::framePreviewShowsTheLayout()
+{
+    generators::ui::frmFrame dialog(generators::FrameModel::Orientation::Cols, 3, m_main.get(), true);
+    dialog.show();
+    QWebEngineView *view = dialog.preview()->view();
+    QVERIFY(view);
+    QSignalSpy loaded(view, &QWebEngineView::loadFinished);
+    QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(evaluate(view, QStringLiteral("window.frames.length")).toInt(), 3, 20000);
+    dialog.cmdAdd_Click();
+    QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 2, 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(evaluate(view, QStringLiteral("window.frames.length")).toInt(), 4, 20000);
+}
+
+QTEST_MAIN(tst_GeneratorPreview)
+#include "tst_generatorpreview.moc"
