@@ -1,11 +1,11 @@
 #!/usr/bin/python3
 # A real FTP server on 127.0.0.1 for the transfer tests (pyftpdlib).
 # Usage: ftpserver.py ROOT [--user U --password P] [--locked DIR]
-#        [--drop-after BYTES --drop-times N] [--silent]
+#        [--drop-after BYTES --drop-times N] [--silent] [--read-limit BPS]
 # Prints "PORT n" once it listens. --locked makes DIR (below ROOT) read-only
 # for the user; --drop-after closes the connection of an upload after that
 # many bytes, the first N times; --silent accepts connections and never
-# says a word.
+# says a word; --read-limit takes uploads no faster than BPS bytes a second.
 import argparse
 import logging
 import socket
@@ -20,6 +20,7 @@ ap.add_argument("--locked", default="")
 ap.add_argument("--drop-after", type=int, default=0)
 ap.add_argument("--drop-times", type=int, default=1)
 ap.add_argument("--silent", action="store_true")
+ap.add_argument("--read-limit", type=int, default=0)
 args = ap.parse_args()
 
 if args.silent:
@@ -33,7 +34,7 @@ if args.silent:
         held.append(c)
 
 from pyftpdlib.authorizers import DummyAuthorizer
-from pyftpdlib.handlers import FTPHandler, DTPHandler
+from pyftpdlib.handlers import FTPHandler, DTPHandler, ThrottledDTPHandler
 from pyftpdlib.servers import FTPServer
 
 logging.basicConfig(level=logging.CRITICAL)
@@ -46,9 +47,14 @@ if args.locked:
 drops = {"left": args.drop_times}
 
 
-class DroppingDTP(DTPHandler):
+BaseDTP = ThrottledDTPHandler if args.read_limit else DTPHandler
+if args.read_limit:
+    ThrottledDTPHandler.read_limit = args.read_limit
+
+
+class DroppingDTP(BaseDTP):
     def handle_read(self):
-        DTPHandler.handle_read(self)
+        BaseDTP.handle_read(self)
         if args.drop_after and drops["left"] > 0 and self.get_transmitted_bytes() >= args.drop_after:
             drops["left"] -= 1
             # The whole session goes, as when a server or a line fails.
