@@ -46,7 +46,20 @@ const Shot kShots[] = {
     {"frmTableTemp", "InsertTableTemp"}, {"frmImageMap", "InsertImageMap"},
     {"frmFormEditor", "InsertForm"},     {"frmTextEffects", "InsertTextEffects"},
     {"frmAXObjects", "InsertActiveX"},   {"frmProjectManager", "mnuProjectMan"},
-    {"frmFilterKeys", "FilterTags"},
+    {"frmFilterKeys", "FilterTags"},     {"frmEditTags", "EditTags"},
+    {"frmOpenProj", "mnuOpenProject"},   {"frmTabbuster", "ToolsOptimizeDL"},
+    {"frmJSClock", "InsertJS0"},         {"frmJSRandomAd", "InsertJS1"},
+    {"frmJSScrolling", "InsertJS3"},     {"frmPickList", "InsertJS5"},
+    {"frmJSPopup", "InsertJS7"},         {"frmJavaHRule", "InsertJavaHR"},
+    {"frmJavaLED", "InsertJavaLED"},     {"frmMarquee", "InsertMarquee"},
+    {"frmNetCaster", "InsertNetCaster"}, {"frmACSubscribe", "InsertACSubscribe"},
+    {"frmActiveChannel", "InsertChannelDef"}, {"frmACItem", "InsertChannelItem"},
+    {"frmCSSSimple", "FormatEditStyles"}, {"frmCSSDocStyles", "FormatSetStyle"},
+    {"frmCSSImport", "FormatSetURLStyle"}, {"frmNewFrames", "InsertFrame"},
+    {"frmInputField", "InsertTextField"}, {"frmCheckBox", "InsertCheckBox"},
+    {"frmTextArea", "InsertTextArea"},   {"frmListBox", "InsertFormList"},
+    {"frmFormImage", "InsertFormImage"}, {"frmSubmit", "InsertSubmit"},
+    {"frmReset", "InsertReset"},
 };
 
 // The dialog named `topic` once it shows: pictured, then closed.
