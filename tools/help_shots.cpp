@@ -59,7 +59,7 @@ const Shot kShots[] = {
     {"frmInputField", "InsertTextField"}, {"frmCheckBox", "InsertCheckBox"},
     {"frmTextArea", "InsertTextArea"},   {"frmListBox", "InsertFormList"},
     {"frmFormImage", "InsertFormImage"}, {"frmSubmit", "InsertSubmit"},
-    {"frmReset", "InsertReset"},
+    {"frmReset", "InsertReset"},         {"frmAnimator", "InsertAnimation"},
 };
 
 // The dialog named `topic` once it shows: pictured, then closed.

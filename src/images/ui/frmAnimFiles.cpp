@@ -47,6 +47,7 @@ const QList<FileType> &types()
 frmAnimFiles::frmAnimFiles(QWidget *parent, const QString &start)
     : QDialog(parent, core::ui::kDialogFlags)
 {
+    setObjectName(QStringLiteral("frmAnimFiles"));
     setWindowTitle(QStringLiteral("Add Animation Frames"));
     m_dirs = new QFileSystemModel(this);
     m_dirs->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);

@@ -75,6 +75,7 @@ QColor fromBgr(quint32 bgr)
 frmAnimator::frmAnimator(QWidget *parent)
     : QDialog(parent, core::ui::kDialogFlags)
 {
+    setObjectName(QStringLiteral("frmAnimator"));
     setWindowTitle(QStringLiteral("Animator"));
     m_strip = new FrameStrip;
     m_imgTrash = new QLabel;
@@ -175,7 +176,7 @@ frmAnimator::frmAnimator(QWidget *parent)
     connect(cmdPreview, &QPushButton::clicked, this, [this] { cmdPreview_Click(); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdHelp, &QPushButton::clicked, this, [] { core::ui::OpenHelp(); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { core::ui::OpenHelp(objectName()); });
     // Wide enough for six frames, but never beyond the screen.
     QSize size(980, sizeHint().height());
     if (QScreen *screen = this->screen())

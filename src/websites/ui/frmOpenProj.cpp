@@ -129,7 +129,7 @@ void frmOpenProj::cmdOptions_Click(int index)
     case 0: m_tag = m_txtFile->text(); break;
     case 1: m_tag = QStringLiteral("CANCEL"); break;
     case 3: m_tag = QStringLiteral("/PROJMANG/") + m_txtFile->text(); break;
-    default: core::ui::OpenHelp(); return;
+    default: core::ui::OpenHelp(objectName()); return;
     }
     if (index == 0 && m_tag.isEmpty())
         return;
