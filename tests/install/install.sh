@@ -35,30 +35,7 @@ man -l "$prefix/share/man/man1/quillery-cli.1" 2>/dev/null | grep -q "find \[-f 
   || { command -v man > /dev/null && fail "the quillery-cli manual lacks its commands"; } || true
 
 find "$prefix" -printf '%p %s\n' | sort > "$work/before"
-export XDG_CONFIG_HOME="$work/config" XDG_DATA_HOME="$work/data" TMPDIR="$work/tmp"
-export QTWEBENGINE_DISABLE_SANDBOX=1
-mkdir -p "$TMPDIR"
-printf '<HTML><BODY>installed</BODY></HTML>' > "$work/page.html"
-cd "$work"
-xvfb-run -a -s "-screen 0 1280x1024x24" dbus-run-session -- bash -s "$prefix" "$work" <<'INNER'
-set -u
-prefix="$1"; work="$2"
-app() { "$prefix/bin/quillery-cli" app "$@" 2>/dev/null; }
-"$prefix/bin/quillery" "$work/page.html" &
-pid=$!
-for _ in $(seq 1 300); do
-  [ "$(app TEPIGetNumDocuments)" = "1" ] && break
-  sleep 0.1
-done
-status=0
-[ -n "${INSTALL_VERBOSE:-}" ] && echo "AppPath $(app AppPath); file $(app TEPICurrentDocFilePath)"
-[ "$(app AppPath)" = "$work/data/quillery" ] || { echo "FAIL: works from $(app AppPath)"; status=1; }
-[ "$(app TEPICurrentDocFilePath)" = "$work/page.html" ] || { echo "FAIL: the page did not open"; status=1; }
-[ "$(app TEPIGetText)" = "<HTML><BODY>installed</BODY></HTML>" ] || { echo "FAIL: the page's text"; status=1; }
-kill -TERM "$pid"
-for _ in $(seq 1 200); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
-exit $status
-INNER
+bash "$(dirname "$0")/start_installed.sh" "$prefix" "$work" || fail "the installed program"
 [ -f "$work/data/quillery/Templates/Blank.tpl" ] || fail "the data was not copied to the user's data folder"
 [ -f "$work/config/quillery/quillery.ini" ] || fail "no configuration in the user's folder"
 find "$prefix" -printf '%p %s\n' | sort > "$work/after"

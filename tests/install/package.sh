@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the Debian package and checks it as a fresh machine would see it:
-# its dependencies, its file list, and that the programs unpacked into an
-# empty root find every library they need.
+# its dependencies and file list, then installs it with dpkg into an empty
+# root and starts the packaged program there with a page.
 #   package.sh BUILD_DIR
 set -euo pipefail
 build="$(cd "$1" && pwd)"
@@ -19,9 +19,23 @@ for f in ./usr/bin/quillery ./usr/bin/quillery-cli ./usr/share/quillery/quillery
          ./usr/share/applications/org.quillery.Quillery.desktop ./usr/share/man/man1/quillery.1; do
   grep -qx "$f" "$work/files" || fail "$f is not in the package"
 done
-dpkg-deb -x "$deb" "$work/root"
-for exe in quillery quillery-cli; do
-  if ldd "$work/root/usr/bin/$exe" | grep -e "not found" -e "$build"; then fail "$exe lacks a library"; fi
+# Installed by dpkg into an empty root of its own, as on a new machine.
+root="$work/root"
+mkdir -p "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/updates" "$root/var/lib/dpkg/triggers"
+touch "$root/var/lib/dpkg/status"
+force="--force-depends"
+[ "$(id -u)" -ne 0 ] && force="$force,not-root"
+dpkg --root="$root" --log=/dev/null $force -i "$deb" > "$work/dpkg.log" 2>&1 || { cat "$work/dpkg.log"; fail "dpkg -i"; }
+dpkg --root="$root" -s quillery | grep -q "^Status: install ok installed" || fail "dpkg does not list quillery as installed"
+# Every dependency names a package Debian has, installed on this machine.
+deps="$(dpkg-deb -f "$deb" Depends | tr ',' '\n' | sed -e 's/(.*)//' -e 's/|.*//' -e 's/ //g')"
+for dep in $deps; do
+  dpkg-query -W -f='${Status}' "$dep" 2>/dev/null | grep -q "install ok installed" || fail "dependency $dep is not installed here"
 done
-"$work/root/usr/bin/quillery-cli" --help | grep -q "^  find" || fail "the packaged quillery-cli does not run"
-echo "package: $(basename "$deb"), $(du -h "$deb" | cut -f1), dependencies and files as expected"
+for exe in quillery quillery-cli; do
+  if ldd "$root/usr/bin/$exe" | grep -e "not found" -e "$build"; then fail "$exe lacks a library"; fi
+done
+"$root/usr/bin/quillery-cli" --help | grep -q "^  find" || fail "the packaged quillery-cli does not run"
+mkdir "$work/run"
+bash "$(dirname "$0")/start_installed.sh" "$root/usr" "$work/run" || fail "the packaged quillery did not open a page"
+echo "package: $(basename "$deb"), $(du -h "$deb" | cut -f1), installed by dpkg into an empty root, started and opened a page"
