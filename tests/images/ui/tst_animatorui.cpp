@@ -4,6 +4,7 @@
 #include "images/ui/ImageCommands.h"
 #include "images/ui/frmAnimFiles.h"
 #include "images/ui/frmAnimator.h"
+#include "support/Shots.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -108,6 +109,7 @@ void tst_AnimatorUi::framesMoveDeleteAndPlay()
     QTest::mouseRelease(strip->viewport(), Qt::LeftButton, {}, overTrash);
     QCoreApplication::processEvents();
     QCOMPARE(stripOrder(dialog), (QStringList{QStringLiteral("f1.gif"), QStringLiteral("f0.gif")}));
+    test::saveShot(&dialog, QStringLiteral("animator-frames"));
 
     // The canvas: step moves on and wraps, play runs on each frame's delay.
     dialog.DisplayFrame(0);

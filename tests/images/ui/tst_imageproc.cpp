@@ -3,6 +3,7 @@
 #include "images/ui/ImageProcSession.h"
 #include "images/ui/SquishImage.h"
 #include "images/ui/frmImageProc.h"
+#include "support/Shots.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -130,6 +131,7 @@ void tst_ImageProc::dialogPicksAndSaves()
     QVERIFY(dialog.session().transparent().has_value());
     QCOMPARE(dialog.session().transparent()->rgb(), picked);
     QCOMPARE(qAlpha(dialog.session().gifImage().pixel(2, 20)), 0);
+    test::saveShot(&dialog, QStringLiteral("imageproc"));
 
     dialog.rbJpeg_Click(4);   // "Other" with nothing typed waits for the level
     const QString target = env.path(QStringLiteral("saved.gif"));

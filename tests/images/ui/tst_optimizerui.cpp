@@ -3,6 +3,7 @@
 #include "images/PageOptimizer.h"
 #include "images/ui/ImageCodec.h"
 #include "images/ui/frmTabbuster.h"
+#include "support/Shots.h"
 #include "support/MainWindowHost.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -76,6 +77,7 @@ void tst_OptimizerUi::resourceListAndRuns()
     QCOMPARE(row->text(3), DownloadTime(originalGif.size(), QStringLiteral("14.4")));
     QCOMPARE(list->headerItem()->text(9), QStringLiteral("1000"));
     QCOMPARE(list->columnCount(), 3 + int(SpeedRows().size()));
+    test::saveShot(dialog, QStringLiteral("optimizer-resources"));
 
     // Cancelled from its own progress, then a whole run into a save folder.
     byText<QCheckBox>(dialog, QStringLiteral("Replace Image"))->setChecked(true);
