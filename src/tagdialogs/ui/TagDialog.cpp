@@ -62,10 +62,12 @@ void TagDialog::finish(QLayout *content)
     m_notes = new QLabel(this);
     m_notes->setObjectName(S("lblNotes"));
     m_notes->setWordWrap(true);
+    m_notes->setTextFormat(Qt::PlainText);   // notes quote markup such as <HEAD>
     m_notes->setStyleSheet(S("color: #8a5a00"));
     m_warnings = new QLabel(this);
     m_warnings->setObjectName(S("lblWarnings"));
     m_warnings->setWordWrap(true);
+    m_warnings->setTextFormat(Qt::PlainText);
     m_warnings->setStyleSheet(S("color: #8a5a00"));
     layout->addWidget(m_notes);
     layout->addWidget(m_warnings);
