@@ -3,6 +3,7 @@
 #include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 #include "generators/AppletFallback.h"
+#include "generators/ui/PreviewPane.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -23,7 +24,7 @@ FieldsDialog::FieldsDialog(const QString &objectName, const QString &title, QWid
 {
     setObjectName(objectName);
     setWindowTitle(title);
-    setMinimumWidth(380);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 54);
     auto *outer = new QVBoxLayout(this);
     m_form = new QFormLayout;
     outer->addLayout(m_form);
@@ -96,15 +97,23 @@ QPlainTextEdit *FieldsDialog::addText(const QString &name, const QString &label)
 
 QPushButton *FieldsDialog::addColor(const QString &name, const QString &label, unsigned rgb)
 {
+    QPushButton *button = colorButton(name, rgb);
+    m_form->addRow(label, button);
+    return button;
+}
+
+QPushButton *FieldsDialog::colorButton(const QString &name, unsigned rgb)
+{
     auto *button = new QPushButton(this);
     button->setObjectName(name);
     setColor(button, rgb);
     connect(button, &QPushButton::clicked, this, [this, button] {
         const QColor chosen = QColorDialog::getColor(QColor::fromRgb(colorOf(button)), this);
-        if (chosen.isValid())
-            setColor(button, chosen.rgb() & 0xFFFFFF);
+        if (!chosen.isValid())
+            return;
+        setColor(button, chosen.rgb() & 0xFFFFFF);
+        emit colorChosen(button);
     });
-    m_form->addRow(label, button);
     return button;
 }
 
@@ -129,6 +138,22 @@ QCheckBox *FieldsDialog::addFallbackCheck()
     box->setChecked(AppletFallbackOn());
     connect(box, &QCheckBox::toggled, this, [](bool on) { SetAppletFallback(on); });
     return box;
+}
+
+void FieldsDialog::addBelowFields(QWidget *widget)
+{
+    auto *outer = static_cast<QVBoxLayout *>(layout());
+    outer->insertWidget(outer->count() - 1, widget, 1);
+}
+
+void FieldsDialog::letFieldsScroll()
+{
+    const QSize whole = sizeHint();
+    auto *outer = static_cast<QVBoxLayout *>(layout());
+    outer->removeItem(m_form);
+    m_form->setParent(nullptr);
+    outer->insertWidget(0, scrolledPanel(m_form, this), 1);
+    fitToScreen(this, whole);
 }
 
 void FieldsDialog::addRowWithButton(const QString &label, QWidget *field, QWidget *button)

@@ -49,9 +49,33 @@ void PreviewPane::setLive(bool live)
     }
 }
 
+void PreviewPane::onWritten(std::function<void(const QString &, const QString &)> written)
+{
+    m_written = std::move(written);
+}
+
 void PreviewPane::changed()
 {
     m_timer.start();
+}
+
+void PreviewPane::changedIfLive()
+{
+    if (m_view)
+        changed();
+}
+
+void PreviewPane::showLive(QWidget *dialog)
+{
+    if (m_view) {
+        refreshNow();
+        return;
+    }
+    show();
+    setLive(true);
+    const int room = fontMetrics().height() * 12;
+    m_view->setMinimumHeight(room / 2);
+    fitToScreen(dialog, dialog->size() + QSize(0, room));
 }
 
 bool PreviewPane::refreshNow()
@@ -60,12 +84,15 @@ bool PreviewPane::refreshNow()
     // One file for the dialog's life, removed when it closes.
     if (m_path.isEmpty())
         m_path = PreviewPagePath();
-    const core::IoResult written = WritePreviewPage(m_path, m_page());
+    const QString page = m_page();
+    const core::IoResult written = WritePreviewPage(m_path, page);
     m_message->setVisible(!written.ok());
     if (!written.ok()) {
         m_message->setText(QStringLiteral("The preview could not be written: ") + written.message);
         return false;
     }
+    if (m_written)
+        m_written(m_path, page);
     if (m_view) {
         const QUrl url = QUrl::fromLocalFile(m_path);
         if (m_view->url() == url)

@@ -1,16 +1,12 @@
 #include "generators/ui/frmTextEffects.h"
 
-#include "core/ui/Help.h"
-#include "documents/Document.h"
-#include "documents/Workspace.h"
 #include "generators/AppletClasses.h"
 #include "generators/EffectChecks.h"
+#include "generators/ui/PreviewPane.h"
 #include "generators/ui/frmTEAppSize.h"
-#include "platform/Prompts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -20,28 +16,13 @@
 #include <QRadioButton>
 #include <QSlider>
 #include <QTabWidget>
-#include <QUrl>
 
 namespace qly::generators::ui {
-
-namespace {
-
-// The folder of the current document, or the temp folder for an untitled one.
-QString documentDirectory()
-{
-    documents::Document *doc = documents::Workspace::CurrentDocument();
-    if (doc && !doc->LocalFileName.isEmpty())
-        return QFileInfo(doc->LocalFileName).absolutePath();
-    return QDir::tempPath();
-}
-
-} // namespace
 
 frmTextEffects::frmTextEffects(QWidget *parent)
     : FieldsDialog(QStringLiteral("frmTextEffects"), QStringLiteral("Text Effects"), parent)
 {
     const TextEffectsModel defaults;
-    setMinimumWidth(660);
     m_ssTabs = new QTabWidget(this);
     m_ssTabs->setObjectName(QStringLiteral("ssTabs"));
     for (const QString &effect : TextEffectsModel::effects())
@@ -77,7 +58,7 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     m_txtSpeed = new QLineEdit(defaults.speed, this);
     m_txtSpeed->setObjectName(QStringLiteral("txtSpeed"));
     m_txtSpeed->setValidator(new QIntValidator(0, 99999, m_txtSpeed));
-    m_txtSpeed->setMaximumWidth(70);
+    m_txtSpeed->setMaximumWidth(m_txtSpeed->fontMetrics().averageCharWidth() * 9);
     m_sldSpeed->setValue(defaults.speed.toInt());
     speed->addWidget(m_sldSpeed, 1);
     speed->addWidget(m_txtSpeed);
@@ -89,13 +70,22 @@ frmTextEffects::frmTextEffects(QWidget *parent)
                               TextEffectsModel::alignments(), false);
     m_cmbAlignment->setCurrentText(defaults.alignment);
     auto *border = new QHBoxLayout;
-    for (const auto &[name, caption] : {std::pair{"chkBorder", "Border"}, std::pair{"chkBorder3D", "3D border"}}) {
-        auto *box = new QCheckBox(QString::fromLatin1(caption), this);
-        box->setObjectName(QString::fromLatin1(name));
-        border->addWidget(box);
-    }
+    m_chkBorder = new QCheckBox(QStringLiteral("Border"), this);
+    m_chkBorder->setObjectName(QStringLiteral("chkBorder"));
+    m_chkBorder3D = new QCheckBox(QStringLiteral("3D border"), this);
+    m_chkBorder3D->setObjectName(QStringLiteral("chkBorder3D"));
+    m_imgBorderColor = colorButton(QStringLiteral("imgBorderColor"), defaults.borderColor);
+    m_imgBorderColor->setToolTip(QStringLiteral("Border colour"));
+    m_imgBorderColor->setEnabled(false);
+    border->addWidget(m_chkBorder);
+    border->addWidget(m_chkBorder3D);
+    border->addWidget(m_imgBorderColor);
     border->addStretch();
     form()->addRow(QStringLiteral("Border:"), border);
+    for (QCheckBox *tick : {m_chkBorder, m_chkBorder3D})
+        connect(tick, &QCheckBox::toggled, this, [this] {
+            m_imgBorderColor->setEnabled(m_chkBorder->isChecked() || m_chkBorder3D->isChecked());
+        });
     addFallbackCheck();
 
     auto *actions = new QHBoxLayout;
@@ -109,9 +99,25 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     form()->addRow(actions);
     connect(size, &QPushButton::clicked, this, [this] {
         frmTEAppSize dialog(m_size, this);
-        dialog.ask();
+        if (dialog.ask())
+            m_preview->changedIfLive();
     });
     connect(show, &QPushButton::clicked, this, &frmTextEffects::preview);
+
+    // The preview in the dialog: the page beside the current document, with
+    // the classes it names copied there.
+    m_preview = new PreviewPane([this] {
+        TextEffectsModel m = model();
+        return m.previewPage(m.CreateApplet());
+    }, this);
+    m_preview->setObjectName(QStringLiteral("preview"));
+    m_preview->onWritten([](const QString &path, const QString &page) {
+        CopyAppletClasses(page, QFileInfo(path).absolutePath());
+    });
+    addBelowFields(m_preview);
+    m_preview->hide();   // until the first preview
+    followChanges();
+    letFieldsScroll();
 
     connect(m_cmbFontName->lineEdit(), &QLineEdit::editingFinished, this, [this] {
         if (!ValidFontName(m_cmbFontName->currentText()))
@@ -197,6 +203,9 @@ TextEffectsModel frmTextEffects::model() const
     m.spearmintEat = m_chkSpearmint->isChecked();
     m.gradient = m_chkGradient->isChecked();
     m.minFont = m_txtMinFont->text();
+    m.border = m_chkBorder->isChecked();
+    m.border3D = m_chkBorder3D->isChecked();
+    m.borderColor = colorOf(m_imgBorderColor);
     return m;
 }
 
@@ -210,13 +219,23 @@ QString frmTextEffects::appletText()
 
 void frmTextEffects::preview()
 {
-    const TextEffectsModel m = model();
-    const QString path = WriteAppletPreview(m.previewPage(appletText()), documentDirectory());
-    if (path.isEmpty()) {
-        platform::MsgBox(QStringLiteral("The preview could not be written."));
-        return;
+    appletText();   // an empty text field receives the maker's text
+    m_preview->showLive(this);
+}
+
+void frmTextEffects::followChanges()
+{
+    auto changed = [this] { m_preview->changedIfLive(); };
+    for (QLineEdit *edit : findChildren<QLineEdit *>())
+        connect(edit, &QLineEdit::textChanged, this, changed);
+    for (QAbstractButton *tick : findChildren<QAbstractButton *>()) {
+        if (tick->isCheckable())
+            connect(tick, &QAbstractButton::toggled, this, changed);
     }
-    core::ui::OpenInBrowser(QUrl::fromLocalFile(path));
+    for (QComboBox *box : findChildren<QComboBox *>())
+        connect(box, &QComboBox::currentTextChanged, this, changed);
+    connect(m_ssTabs, &QTabWidget::currentChanged, this, changed);
+    connect(this, &FieldsDialog::colorChosen, this, changed);
 }
 
 bool frmTextEffects::confirm()
