@@ -31,6 +31,8 @@
 #include <QDir>
 #include <QLabel>
 #include <QScreen>
+#include <QAbstractScrollArea>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -43,13 +45,27 @@ using namespace qly::generators::ui;
 
 namespace {
 
+// True when `w` stands in a scrolling area, where part of it may be out of sight.
+bool scrolls(const QWidget *w, const QWidget *dialog)
+{
+    for (const QWidget *p = w->parentWidget(); p && p != dialog; p = p->parentWidget()) {
+        if (qobject_cast<const QAbstractScrollArea *>(p))
+            return true;
+    }
+    return false;
+}
+
 // The widgets of `dialog` that show less than their text needs.
 QStringList cutOff(QWidget *dialog)
 {
     QStringList out;
     for (QWidget *w : dialog->findChildren<QWidget *>()) {
-        if (!w->isVisible() || !(qobject_cast<QLabel *>(w) || qobject_cast<QAbstractButton *>(w)))
+        if (!w->isVisible() || !(qobject_cast<QLabel *>(w) || qobject_cast<QAbstractButton *>(w))
+            || qobject_cast<QTabBar *>(w->parentWidget()))
             continue;
+        const QRect inDialog(w->mapTo(dialog, QPoint(0, 0)), w->size());
+        if (!dialog->rect().contains(inDialog) && !scrolls(w, dialog))
+            out << QStringLiteral("%1 \"%2\" beyond the dialog's edge").arg(w->objectName(), w->property("text").toString());
         const QSize need = w->minimumSizeHint().expandedTo(QSize(0, 0));
         if (w->width() < need.width() || w->height() < need.height())
             out << QStringLiteral("%1 \"%2\" %3x%4 < %5x%6")
@@ -130,12 +146,29 @@ int main(int argc, char **argv)
         std::unique_ptr<QWidget> dialog(make());
         failed += shoot(QDir(args.at(1)).filePath(topic + QStringLiteral(".png")), dialog.get());
         // Each page of a tabbed dialog.
-        if (auto *tabs = dialog->findChild<QTabWidget *>(); tabs && topic == QLatin1String("frmTextEffects")) {
-            for (int i = 1; i < tabs->count(); ++i) {
+        if (auto *tabs = dialog->findChild<QTabWidget *>()) {
+            const int shown = tabs->currentIndex();
+            for (int i = 0; i < tabs->count(); ++i) {
+                if (i == shown)
+                    continue;
                 tabs->setCurrentIndex(i);
                 failed += shoot(QDir(args.at(1)).filePath(topic + QString::number(i) + QStringLiteral(".png")),
                                 dialog.get());
             }
+        }
+        // The dialogs with a preview, once more with the preview showing.
+        auto *effects = qobject_cast<frmTextEffects *>(dialog.get());
+        auto *objects = qobject_cast<frmAXObjects *>(dialog.get());
+        if (effects || objects) {
+            dialog->show();
+            if (effects)
+                effects->preview();
+            if (objects) {
+                objects->chooseControl(0);
+                objects->preview();
+            }
+            QTest::qWait(3000);
+            failed += shoot(QDir(args.at(1)).filePath(topic + QStringLiteral("-preview.png")), dialog.get());
         }
     }
     return failed == 0 ? 0 : 1;

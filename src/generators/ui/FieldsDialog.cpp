@@ -15,7 +15,11 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace qly::generators::ui {
 
@@ -24,7 +28,6 @@ FieldsDialog::FieldsDialog(const QString &objectName, const QString &title, QWid
 {
     setObjectName(objectName);
     setWindowTitle(title);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 54);
     auto *outer = new QVBoxLayout(this);
     m_form = new QFormLayout;
     outer->addLayout(m_form);
@@ -47,6 +50,13 @@ FieldsDialog::FieldsDialog(const QString &objectName, const QString &title, QWid
         m_tag = QStringLiteral("0");
         reject();
     });
+}
+
+QSize FieldsDialog::sizeHint() const
+{
+    // Room for a field of a few words; the layout alone sets the minimum,
+    // so that a small screen can still show the dialog whole.
+    return QDialog::sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 54, 0));
 }
 
 bool FieldsDialog::ask()
@@ -140,19 +150,25 @@ QCheckBox *FieldsDialog::addFallbackCheck()
     return box;
 }
 
-void FieldsDialog::addBelowFields(QWidget *widget)
+void FieldsDialog::addBelowFields(QWidget *widget, int stretch)
 {
     auto *outer = static_cast<QVBoxLayout *>(layout());
-    outer->insertWidget(outer->count() - 1, widget, 1);
+    outer->insertWidget(outer->count() - 1, widget, stretch);
 }
 
-void FieldsDialog::letFieldsScroll()
+void FieldsDialog::letFieldsScroll(int preferredWidth)
 {
-    const QSize whole = sizeHint();
+    QSize whole = sizeHint();
+    whole.setWidth(std::max(whole.width(), preferredWidth));
     auto *outer = static_cast<QVBoxLayout *>(layout());
     outer->removeItem(m_form);
     m_form->setParent(nullptr);
-    outer->insertWidget(0, scrolledPanel(m_form, this), 1);
+    QWidget *panel = scrolledPanel(m_form, this);
+    // The panel may grow with the dialog and shrink to the rows' minimum.
+    auto *area = static_cast<QScrollArea *>(panel);
+    panel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    panel->setMinimumWidth(area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    outer->insertWidget(0, panel);
     fitToScreen(this, whole);
 }
 

@@ -24,6 +24,7 @@ public:
     QString Tag() const { return m_tag; }
     // Shows the dialog modally; true after OK.
     bool ask();
+    QSize sizeHint() const override;
 
 signals:
     // The user chose a new colour on one of the colour buttons.
@@ -45,12 +46,14 @@ protected:
     // A row with a field and a "..." button beside it.
     void addRowWithButton(const QString &label, QWidget *field, QWidget *button);
     QFormLayout *form() const { return m_form; }
-    // A widget between the rows and the buttons, taking the room to spare.
-    void addBelowFields(QWidget *widget);
+    // A widget between the rows and the buttons, by default taking the room
+    // to spare.
+    void addBelowFields(QWidget *widget, int stretch = 1);
     // Puts the rows in a panel that scrolls when the screen is too small for
     // them (large fonts, a doubled scale), and sizes the dialog to show them
-    // whole where the screen allows. Called once, after the last row.
-    void letFieldsScroll();
+    // whole where the screen allows, `preferredWidth` wide at least. Called
+    // once, after the last row.
+    void letFieldsScroll(int preferredWidth = 0);
     // Called before OK closes the dialog; false keeps it open.
     virtual bool confirm() { return true; }
 

@@ -71,11 +71,14 @@ void PreviewPane::showLive(QWidget *dialog)
         refreshNow();
         return;
     }
+    // The dialog grows first, then the browser takes the new room.
+    const int room = fontMetrics().height() * 12;
+    fitToScreen(dialog, dialog->size() + QSize(0, room));
     show();
     setLive(true);
-    const int room = fontMetrics().height() * 12;
+    // The fields keep their height; the browser takes what is left.
+    m_view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_view->setMinimumHeight(room / 2);
-    fitToScreen(dialog, dialog->size() + QSize(0, room));
 }
 
 bool PreviewPane::refreshNow()
@@ -112,12 +115,30 @@ void fitToScreen(QWidget *dialog, const QSize &preferred)
     dialog->resize(size.expandedTo(dialog->minimumSizeHint()));
 }
 
+namespace {
+
+// A scroll area that asks for room to show all of its contents; it scrolls
+// only when the dialog cannot give that room.
+class WholeScrollArea final : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+    QSize sizeHint() const override
+    {
+        const int frame = 2 * frameWidth();
+        return widget() ? widget()->sizeHint() + QSize(frame + verticalScrollBar()->sizeHint().width(), frame)
+                        : QScrollArea::sizeHint();
+    }
+};
+
+} // namespace
+
 QWidget *scrolledPanel(QLayout *fields, QWidget *parent)
 {
     auto *inside = new QWidget;
     inside->setLayout(fields);
     fields->setContentsMargins(0, 0, 0, 0);
-    auto *area = new QScrollArea(parent);
+    auto *area = new WholeScrollArea(parent);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -11,10 +11,13 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QIntValidator>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace qly::generators::ui {
@@ -31,13 +34,25 @@ frmTextEffects::frmTextEffects(QWidget *parent)
 
     m_txtStringCenter = addLine(QStringLiteral("txtStringCenter"), QStringLiteral("Text:"));
     m_txtStringCenter->setText(defaults.text);
-    m_cmbFontName = addCombo(QStringLiteral("cmbFontName"), QStringLiteral("Font:"), TextEffectsModel::fontNames(), true);
+    // Font and size share a row, as do style and colours, so that the dialog
+    // stays short.
+    auto *font = new QHBoxLayout;
+    m_cmbFontName = new QComboBox(this);
+    m_cmbFontName->setObjectName(QStringLiteral("cmbFontName"));
+    m_cmbFontName->setEditable(true);
+    m_cmbFontName->addItems(TextEffectsModel::fontNames());
     m_cmbFontName->setCurrentText(defaults.fontName);
-    QStringList sizes;
+    m_cmbFontsize = new QComboBox(this);
+    m_cmbFontsize->setObjectName(QStringLiteral("cmbFontsize"));
+    m_cmbFontsize->setEditable(true);
     for (int s : {8, 10, 12, 14, 18, 24, 36, 48, 72})
-        sizes << QString::number(s);
-    m_cmbFontsize = addCombo(QStringLiteral("cmbFontsize"), QStringLiteral("Font size:"), sizes, true);
+        m_cmbFontsize->addItem(QString::number(s));
     m_cmbFontsize->setCurrentText(defaults.fontSize);
+    font->addWidget(m_cmbFontName, 3);
+    font->addWidget(new QLabel(QStringLiteral("Size:"), this));
+    font->addWidget(m_cmbFontsize, 1);
+    form()->addRow(QStringLiteral("Font:"), font);
+
     auto *style = new QHBoxLayout;
     m_bold = new QCheckBox(QStringLiteral("Bold"), this);
     m_bold->setObjectName(QStringLiteral("vsecmdBold"));
@@ -47,8 +62,13 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     style->addWidget(m_italic);
     style->addStretch();
     form()->addRow(QStringLiteral("Style:"), style);
-    m_foreground = addColor(QStringLiteral("vsecmdForeground"), QStringLiteral("Text colour:"), defaults.foreground);
-    m_background = addColor(QStringLiteral("vsecmdBackground"), QStringLiteral("Background:"), defaults.background);
+    auto *colours = new QHBoxLayout;
+    m_foreground = colorButton(QStringLiteral("vsecmdForeground"), defaults.foreground);
+    m_background = colorButton(QStringLiteral("vsecmdBackground"), defaults.background);
+    colours->addWidget(m_foreground, 1);
+    colours->addWidget(new QLabel(QStringLiteral("Background:"), this));
+    colours->addWidget(m_background, 1);
+    form()->addRow(QStringLiteral("Text colour:"), colours);
 
     auto *speed = new QHBoxLayout;
     m_sldSpeed = new QSlider(Qt::Horizontal, this);
@@ -88,7 +108,9 @@ frmTextEffects::frmTextEffects(QWidget *parent)
         });
     addFallbackCheck();
 
-    auto *actions = new QHBoxLayout;
+    auto *actionRow = new QWidget(this);
+    auto *actions = new QHBoxLayout(actionRow);
+    actions->setContentsMargins(0, 0, 0, 0);
     auto *size = new QPushButton(QStringLiteral("Applet &Size..."), this);
     size->setObjectName(QStringLiteral("cmdSize"));
     auto *show = new QPushButton(QStringLiteral("&Preview"), this);
@@ -96,7 +118,6 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     actions->addWidget(size);
     actions->addWidget(show);
     actions->addStretch();
-    form()->addRow(actions);
     connect(size, &QPushButton::clicked, this, [this] {
         frmTEAppSize dialog(m_size, this);
         if (dialog.ask())
@@ -114,10 +135,12 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     m_preview->onWritten([](const QString &path, const QString &page) {
         CopyAppletClasses(page, QFileInfo(path).absolutePath());
     });
+    addBelowFields(actionRow, 0);
     addBelowFields(m_preview);
     m_preview->hide();   // until the first preview
     followChanges();
-    letFieldsScroll();
+    // Wide enough for every effect's tab where the screen allows.
+    letFieldsScroll(m_ssTabs->tabBar()->sizeHint().width() + 4 * QWidget::style()->pixelMetric(QStyle::PM_LayoutLeftMargin));
 
     connect(m_cmbFontName->lineEdit(), &QLineEdit::editingFinished, this, [this] {
         if (!ValidFontName(m_cmbFontName->currentText()))

@@ -45,6 +45,8 @@ frmaxOptions::frmaxOptions(const QStringList &sample, QWidget *parent)
     m_txtCode->setText(o.code);
     m_txtPreview = addText(QStringLiteral("txtPreview"), QStringLiteral("Sample:"));
     m_txtPreview->setReadOnly(true);
+    for (QWidget *box : {id, tag, tagCase, lines})
+        static_cast<QHBoxLayout *>(box->layout())->addStretch();
     m_txtPreview->setMinimumWidth(fontMetrics().averageCharWidth() * 64);
     for (QRadioButton *r : findChildren<QRadioButton *>())
         connect(r, &QRadioButton::toggled, this, &frmaxOptions::showSample);
