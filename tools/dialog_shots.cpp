@@ -1,7 +1,7 @@
 // Pictures of the generator dialogs of forms, scripts, channels, text effects
 // and object tags, for checking their layout at any scale, with a list of
 // the labels and buttons that are smaller than their text needs.
-//   QT_SCALE_FACTOR=2 xvfb-run build/tests/dialog_shots OUT_DIR [NAME...]
+//   bash scripts/dialog-shots.sh OUT_DIR [SCALE] [BUILD_DIR] [NAME...]
 #include "core/Paths.h"
 #include "generators/TextEffectsModel.h"
 #include "generators/ui/frmAXObjects.h"
