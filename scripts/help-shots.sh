@@ -7,10 +7,4 @@ here="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="$(cd "${1:-$here/build}" && pwd)"
 [ $# -gt 0 ] && shift
 cmake --build "$build" --target help_shots quillery_data > /dev/null
-export QTWEBENGINE_DISABLE_SANDBOX=1
-xvfb-run -a -s "-screen 0 1280x1024x24" bash -c '
-  openbox > /dev/null 2>&1 & wm=$!
-  sleep 1
-  "$0" "$@"; status=$?
-  kill $wm
-  exit $status' "$build/tests/help_shots" "$here/data/help" "$@"
+bash "$here/scripts/on-xvfb.sh" "$build/tests/help_shots" "$here/data/help" "$@"

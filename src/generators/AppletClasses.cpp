@@ -57,18 +57,4 @@ QStringList CopyAppletClasses(const QString &page, const QString &directory)
     return copied;
 }
 
-QString WriteAppletPreview(const QString &page, const QString &directory)
-{
-    for (int n = 1; n < 10000; ++n) {
-        const QString path = core::JoinPath(directory, QStringLiteral("~qly%1.htm").arg(n));
-        if (QFileInfo::exists(path))
-            continue;
-        if (!core::writeFileAtomically(path, page.toUtf8()).ok())
-            return {};
-        CopyAppletClasses(page, directory);
-        return path;
-    }
-    return {};
-}
-
 } // namespace qly::generators

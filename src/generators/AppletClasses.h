@@ -16,9 +16,4 @@ QStringList AppletClassFiles(const QString &page);
 // the names copied.
 QStringList CopyAppletClasses(const QString &page, const QString &directory);
 
-// WriteToFile: the preview page under a new "~qly" name with ".htm" in
-// `directory`, its classes copied beside it. The path, or "" when it could
-// not be written.
-QString WriteAppletPreview(const QString &page, const QString &directory);
-
 } // namespace qly::generators

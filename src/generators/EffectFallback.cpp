@@ -59,6 +59,9 @@ QString TextEffectFallback(const TextEffectsModel &m)
                     + cssFont(m.fontName) + QStringLiteral(";color:#") + HexColor(m.foreground);
     if (!plainColors)
         style += QStringLiteral(";background:#") + HexColor(m.background);
+    if (m.border || m.border3D)
+        style += (m.border3D ? QStringLiteral(";border:3px outset #") : QStringLiteral(";border:1px solid #"))
+                 + HexColor(m.borderColor);
     style += QStringLiteral(";overflow:hidden;white-space:nowrap;text-align:center;padding:0.5em 0");
     return QStringLiteral("<div style=\"") + style + QStringLiteral("\">") + kCrLf + QStringLiteral("<style>@keyframes ")
            + name + u'{' + QString::fromLatin1(motion->keyframes) + QStringLiteral("}</style>") + kCrLf

@@ -41,6 +41,12 @@ public:
     bool spearmintEat = false;     // chkSpearmint
     bool gradient = false;         // chkGradient
     QString minFont;               // txtMinFont
+    // chkBorder, chkBorder3D and imgBorderColor. The applet's own text has no
+    // border of its choosing (Spearmint's border lines are fixed); the
+    // border shows in the fallback markup.
+    bool border = false;
+    bool border3D = false;
+    unsigned borderColor = 0x000000;
 
     // frmTEAppSize
     QString width = QStringLiteral("600");

@@ -143,6 +143,9 @@ QString textEffect(const Fields &f)
     m.gradient = yes(f, QStringLiteral("gradient"));
     m.foreground = color(f, QStringLiteral("color"), m.foreground);
     m.background = color(f, QStringLiteral("background"), m.background);
+    m.border = yes(f, QStringLiteral("border"));
+    m.border3D = yes(f, QStringLiteral("border3D"));
+    m.borderColor = color(f, QStringLiteral("borderColor"), m.borderColor);
     QString out = m.CreateApplet(yes(f, QStringLiteral("fallback")));
     // The maker's text also goes back into the field.
     if (f.contains(QStringLiteral("expectText")) && m.text != f.value(QStringLiteral("expectText")))

@@ -74,10 +74,6 @@ void tst_TextEffects::classesAreCopiedOnceAndNeverOverwritten()
     QCOMPARE(env.read(QStringLiteral("site/lfled.class")), QByteArray("mine"));
     QCOMPARE(CopyAppletClasses(page, site), QStringList());
 
-    const QString preview = WriteAppletPreview(page, site);
-    QCOMPARE(QFileInfo(preview).fileName(), QStringLiteral("~qly1.htm"));
-    QCOMPARE(env.read(QStringLiteral("site/~qly1.htm")), page.toUtf8());
-    QCOMPARE(QFileInfo(WriteAppletPreview(page, site)).fileName(), QStringLiteral("~qly2.htm"));
 }
 
 void tst_TextEffects::fallbackFollowsTheStoredOption()

@@ -3,6 +3,7 @@
 #include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 #include "generators/AppletFallback.h"
+#include "generators/ui/PreviewPane.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -14,7 +15,11 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace qly::generators::ui {
 
@@ -23,7 +28,6 @@ FieldsDialog::FieldsDialog(const QString &objectName, const QString &title, QWid
 {
     setObjectName(objectName);
     setWindowTitle(title);
-    setMinimumWidth(380);
     auto *outer = new QVBoxLayout(this);
     m_form = new QFormLayout;
     outer->addLayout(m_form);
@@ -46,6 +50,13 @@ FieldsDialog::FieldsDialog(const QString &objectName, const QString &title, QWid
         m_tag = QStringLiteral("0");
         reject();
     });
+}
+
+QSize FieldsDialog::sizeHint() const
+{
+    // Room for a field of a few words; the layout alone sets the minimum,
+    // so that a small screen can still show the dialog whole.
+    return QDialog::sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 54, 0));
 }
 
 bool FieldsDialog::ask()
@@ -96,15 +107,23 @@ QPlainTextEdit *FieldsDialog::addText(const QString &name, const QString &label)
 
 QPushButton *FieldsDialog::addColor(const QString &name, const QString &label, unsigned rgb)
 {
+    QPushButton *button = colorButton(name, rgb);
+    m_form->addRow(label, button);
+    return button;
+}
+
+QPushButton *FieldsDialog::colorButton(const QString &name, unsigned rgb)
+{
     auto *button = new QPushButton(this);
     button->setObjectName(name);
     setColor(button, rgb);
     connect(button, &QPushButton::clicked, this, [this, button] {
         const QColor chosen = QColorDialog::getColor(QColor::fromRgb(colorOf(button)), this);
-        if (chosen.isValid())
-            setColor(button, chosen.rgb() & 0xFFFFFF);
+        if (!chosen.isValid())
+            return;
+        setColor(button, chosen.rgb() & 0xFFFFFF);
+        emit colorChosen(button);
     });
-    m_form->addRow(label, button);
     return button;
 }
 
@@ -129,6 +148,28 @@ QCheckBox *FieldsDialog::addFallbackCheck()
     box->setChecked(AppletFallbackOn());
     connect(box, &QCheckBox::toggled, this, [](bool on) { SetAppletFallback(on); });
     return box;
+}
+
+void FieldsDialog::addBelowFields(QWidget *widget, int stretch)
+{
+    auto *outer = static_cast<QVBoxLayout *>(layout());
+    outer->insertWidget(outer->count() - 1, widget, stretch);
+}
+
+void FieldsDialog::letFieldsScroll(int preferredWidth)
+{
+    QSize whole = sizeHint();
+    whole.setWidth(std::max(whole.width(), preferredWidth));
+    auto *outer = static_cast<QVBoxLayout *>(layout());
+    outer->removeItem(m_form);
+    m_form->setParent(nullptr);
+    QWidget *panel = scrolledPanel(m_form, this);
+    // The panel may grow with the dialog and shrink to the rows' minimum.
+    auto *area = static_cast<QScrollArea *>(panel);
+    panel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    panel->setMinimumWidth(area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    outer->insertWidget(0, panel);
+    fitToScreen(this, whole);
 }
 
 void FieldsDialog::addRowWithButton(const QString &label, QWidget *field, QWidget *button)

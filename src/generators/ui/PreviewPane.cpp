@@ -49,9 +49,36 @@ void PreviewPane::setLive(bool live)
     }
 }
 
+void PreviewPane::onWritten(std::function<void(const QString &, const QString &)> written)
+{
+    m_written = std::move(written);
+}
+
 void PreviewPane::changed()
 {
     m_timer.start();
+}
+
+void PreviewPane::changedIfLive()
+{
+    if (m_view)
+        changed();
+}
+
+void PreviewPane::showLive(QWidget *dialog)
+{
+    if (m_view) {
+        refreshNow();
+        return;
+    }
+    // The dialog grows first, then the browser takes the new room.
+    const int room = fontMetrics().height() * 12;
+    fitToScreen(dialog, dialog->size() + QSize(0, room));
+    show();
+    setLive(true);
+    // The fields keep their height; the browser takes what is left.
+    m_view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_view->setMinimumHeight(room / 2);
 }
 
 bool PreviewPane::refreshNow()
@@ -60,12 +87,15 @@ bool PreviewPane::refreshNow()
     // One file for the dialog's life, removed when it closes.
     if (m_path.isEmpty())
         m_path = PreviewPagePath();
-    const core::IoResult written = WritePreviewPage(m_path, m_page());
+    const QString page = m_page();
+    const core::IoResult written = WritePreviewPage(m_path, page);
     m_message->setVisible(!written.ok());
     if (!written.ok()) {
         m_message->setText(QStringLiteral("The preview could not be written: ") + written.message);
         return false;
     }
+    if (m_written)
+        m_written(m_path, page);
     if (m_view) {
         const QUrl url = QUrl::fromLocalFile(m_path);
         if (m_view->url() == url)
@@ -85,12 +115,30 @@ void fitToScreen(QWidget *dialog, const QSize &preferred)
     dialog->resize(size.expandedTo(dialog->minimumSizeHint()));
 }
 
+namespace {
+
+// A scroll area that asks for room to show all of its contents; it scrolls
+// only when the dialog cannot give that room.
+class WholeScrollArea final : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+    QSize sizeHint() const override
+    {
+        const int frame = 2 * frameWidth();
+        return widget() ? widget()->sizeHint() + QSize(frame + verticalScrollBar()->sizeHint().width(), frame)
+                        : QScrollArea::sizeHint();
+    }
+};
+
+} // namespace
+
 QWidget *scrolledPanel(QLayout *fields, QWidget *parent)
 {
     auto *inside = new QWidget;
     inside->setLayout(fields);
     fields->setContentsMargins(0, 0, 0, 0);
-    auto *area = new QScrollArea(parent);
+    auto *area = new WholeScrollArea(parent);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -28,13 +28,23 @@ public:
     QWebEngineView *view() const { return m_view; }
     // Something changed: the refresh timer starts again.
     void changed();
+    // The same, only while the pane is live.
+    void changedIfLive();
+    // The Preview button of a dialog whose pane is hidden until first asked
+    // for: shows the pane live, with `dialog` grown where the screen allows,
+    // or refreshes it at once when it shows already.
+    void showLive(QWidget *dialog);
     // Writes the page at once and shows it; false when it could not be written.
     bool refreshNow();
     QString pagePath() const { return m_path; }
+    // Called after each write with the page's path and text, e.g. to copy
+    // the files the page needs beside it.
+    void onWritten(std::function<void(const QString &path, const QString &page)> written);
     int refreshInterval() const { return m_timer.interval(); }
 
 private:
     std::function<QString()> m_page;
+    std::function<void(const QString &, const QString &)> m_written;
     QWebEngineView *m_view = nullptr;
     QLabel *m_message = nullptr;
     QTimer m_timer;

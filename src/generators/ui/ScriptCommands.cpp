@@ -11,11 +11,9 @@
 #include "generators/ui/frmJSClock.h"
 #include "generators/ui/frmJSPopup.h"
 #include "generators/ui/frmPickList.h"
-#include "markup/Links.h"
-#include "markup/Selection.h"
 #include "markup/TagPrimitives.h"
-#include "markup/TextOps.h"
 #include "platform/HTMLEdit.h"
+#include "tagdialogs/LinkModels.h"
 
 namespace qly::generators::ui {
 
@@ -117,18 +115,13 @@ void channel(QWidget *window, const QString &templateName, Fill fill)
         markup::InsertMarkup(fill(ReadChannelTemplate(path), dialog), QString());
 }
 
-// The link of the subscribe button: the selection or the text, linked to the channel file.
+// The subscribe button: the ordinary link to the channel file, around the
+// selection or with the button's text.
 void subscribe(QWidget *window)
 {
     frmACItem dialog(true, window);
-    if (!dialog.ask())
-        return;
-    const QString tag = QStringLiteral("<A HREF=") + markup::AddQuotes(markup::RelativeLink(dialog.url())) + u'>';
-    platform::HTMLEdit *edit = currentEdit();
-    if (edit && !markup::GetSelection(markup::Target(*edit)).isEmpty())
-        markup::WrapSelection(tag, QStringLiteral("</A>"));
-    else
-        markup::InsertMarkup(tag + dialog.name() + QStringLiteral("</A>"), QString());
+    if (dialog.ask())
+        tagdialogs::InsertLinkTag(dialog.url(), QString(), dialog.name());
 }
 
 documents::DocumentHooks::PageFiller askChannelPage(QWidget *window, int kind)

@@ -1,10 +1,8 @@
 #include "generators/ui/frmAXObjects.h"
 
 #include "core/Feedback.h"
-#include "core/FileIo.h"
-#include "core/ui/Help.h"
-#include "documents/TempFiles.h"
 #include "generators/AxTag.h"
+#include "generators/ui/PreviewPane.h"
 #include "generators/ui/frmaxOptions.h"
 #include "platform/Prompts.h"
 
@@ -20,7 +18,6 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTreeWidget>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace qly::generators::ui {
@@ -35,7 +32,8 @@ frmAXObjects::frmAXObjects(QWidget *parent)
     auto *left = new QVBoxLayout;
     m_lstControls = new QListWidget(this);
     m_lstControls->setObjectName(QStringLiteral("lstControls"));
-    m_lstControls->setMinimumWidth(200);
+    const int em = fontMetrics().averageCharWidth();
+    m_lstControls->setMinimumWidth(em * 22);
     m_chkShowax = new QCheckBox(QStringLiteral("Only Show &ActiveX Objects"), this);
     m_chkShowax->setObjectName(QStringLiteral("chkShowax"));
     m_chkShowax->setChecked(true);
@@ -56,7 +54,7 @@ frmAXObjects::frmAXObjects(QWidget *parent)
     m_lstInfo->setHeaderLabels({QStringLiteral("Property"), QStringLiteral("Description"), QStringLiteral("Type"),
                                 QStringLiteral("Value")});
     m_lstInfo->setRootIsDecorated(false);
-    m_lstInfo->setMinimumWidth(400);
+    m_lstInfo->setMinimumWidth(em * 44);
     right->addWidget(m_lstInfo, 1);
     auto *editors = new QHBoxLayout;
     m_txtValue = new QLineEdit(m_frame);
@@ -104,9 +102,16 @@ frmAXObjects::frmAXObjects(QWidget *parent)
     });
     connect(options, &QPushButton::clicked, this, [this] {
         frmaxOptions dialog(m_controlTable.value(0), this);
-        dialog.ask();
+        if (dialog.ask())
+            m_preview->changedIfLive();
     });
     connect(show, &QPushButton::clicked, this, &frmAXObjects::preview);
+
+    m_preview = new PreviewPane([this] { return AxPreviewPage(tagText()); }, this);
+    m_preview->setObjectName(QStringLiteral("preview"));
+    addBelowFields(m_preview);
+    m_preview->hide();   // until the first preview
+    connect(m_txtName, &QLineEdit::textChanged, m_preview, &PreviewPane::changedIfLive);
     fillControls();
     core::ShowStatus(QString());
 }
@@ -151,6 +156,7 @@ void frmAXObjects::chooseControl(int row)
     id.remove(u' ');
     m_txtName->setText(id);
     ShowAxInfo(*c);
+    m_preview->changedIfLive();
 }
 
 void frmAXObjects::ShowAxInfo(const AxClass &c)
@@ -190,8 +196,10 @@ void frmAXObjects::showEditor(QTreeWidgetItem *item)
 
 void frmAXObjects::setValue(int row, const QString &value)
 {
-    if (QTreeWidgetItem *item = m_lstInfo->topLevelItem(row))
+    if (QTreeWidgetItem *item = m_lstInfo->topLevelItem(row)) {
         item->setText(3, value);
+        m_preview->changedIfLive();
+    }
 }
 
 QString frmAXObjects::tagText() const
@@ -207,12 +215,8 @@ QString frmAXObjects::tagText() const
 
 void frmAXObjects::preview()
 {
-    const QString tag = tagText();
-    if (tag.isEmpty())
-        return;
-    const QString path = documents::GetTempName(QStringLiteral(".htm"));
-    if (core::writeFileAtomically(path, AxPreviewPage(tag).toUtf8()).ok())
-        core::ui::OpenInBrowser(QUrl::fromLocalFile(path));
+    if (!tagText().isEmpty())
+        m_preview->showLive(this);
 }
 
 bool frmAXObjects::confirm()

@@ -10,6 +10,8 @@ class QTreeWidgetItem;
 
 namespace qly::generators::ui {
 
+class PreviewPane;
+
 // "ActiveX Parameters": the known controls, the properties of the chosen
 // one with the values the user gives them, and the object tag they make.
 class frmAXObjects final : public FieldsDialog
@@ -24,6 +26,9 @@ public:
     void chooseControl(int row);
     // Sets the value of a property row (as its editor does).
     void setValue(int row, const QString &value);
+    // Shows the tag's page in the dialog; it then follows the values.
+    void preview();
+    PreviewPane *previewPane() const { return m_preview; }
 
 private:
     void fillControls();
@@ -31,7 +36,6 @@ private:
     void ShowAxInfo(const AxClass &c);
     void showEditor(QTreeWidgetItem *item);
     void BuildEnumCombo(const QStringList &values);
-    void preview();
     bool confirm() override;
 
     AxObjects m_objects;
@@ -45,6 +49,7 @@ private:
     QCheckBox *m_chkValue;
     QComboBox *m_cmbCombo;
     QPushButton *m_imgCol;
+    PreviewPane *m_preview;
 };
 
 } // namespace qly::generators::ui

@@ -54,7 +54,7 @@ frmFormEditor::frmFormEditor(QWidget *parent)
     m_lstControls->setHeaderLabels({QStringLiteral("Caption"), QStringLiteral("Name"), QStringLiteral("Misc")});
     m_lstControls->setRootIsDecorated(false);
     m_lstControls->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_lstControls->setMinimumWidth(380);
+    m_lstControls->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     elements->addWidget(m_lstControls, 1);
     connect(m_lstControls, &QTreeWidget::itemDoubleClicked, this, [this] { editSelected(); });
 
@@ -76,13 +76,16 @@ frmFormEditor::frmFormEditor(QWidget *parent)
     }
     auto *side = new QVBoxLayout;
     side->addWidget(adders);
-    auto *change = new QHBoxLayout;
+    auto *change = new QGridLayout;
     QPushButton *edit = button(elementsPage, "cmdEdit", QStringLiteral("&Edit..."));
     QPushButton *del = button(elementsPage, "cmdDelete", QStringLiteral("&Delete"));
     QPushButton *up = button(elementsPage, "cmdUp", QStringLiteral("Move &Up"));
     QPushButton *down = button(elementsPage, "cmdDown", QStringLiteral("Move Do&wn"));
-    for (QPushButton *b : {edit, del, up, down})
-        change->addWidget(b);
+    int place = 0;
+    for (QPushButton *b : {edit, del, up, down}) {
+        change->addWidget(b, place / 2, place % 2);
+        ++place;
+    }
     side->addLayout(change);
     side->addStretch();
     elements->addLayout(side);

@@ -25,7 +25,7 @@ frmPickList::frmPickList(const QString &objectName, const QString &title, const 
     m_lstURLs->setObjectName(QStringLiteral("lstURLs"));
     m_lstURLs->setHeaderLabels(columns);
     m_lstURLs->setRootIsDecorated(false);
-    m_lstURLs->setMinimumWidth(420);
+    m_lstURLs->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     auto *row = new QHBoxLayout;
     row->addWidget(m_lstURLs, 1);
     auto *buttons = new QVBoxLayout;

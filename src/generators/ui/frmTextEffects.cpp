@@ -1,47 +1,31 @@
 #include "generators/ui/frmTextEffects.h"
 
-#include "core/ui/Help.h"
-#include "documents/Document.h"
-#include "documents/Workspace.h"
 #include "generators/AppletClasses.h"
 #include "generators/EffectChecks.h"
+#include "generators/ui/PreviewPane.h"
 #include "generators/ui/frmTEAppSize.h"
-#include "platform/Prompts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QIntValidator>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
-#include <QUrl>
 
 namespace qly::generators::ui {
-
-namespace {
-
-// The folder of the current document, or the temp folder for an untitled one.
-QString documentDirectory()
-{
-    documents::Document *doc = documents::Workspace::CurrentDocument();
-    if (doc && !doc->LocalFileName.isEmpty())
-        return QFileInfo(doc->LocalFileName).absolutePath();
-    return QDir::tempPath();
-}
-
-} // namespace
 
 frmTextEffects::frmTextEffects(QWidget *parent)
     : FieldsDialog(QStringLiteral("frmTextEffects"), QStringLiteral("Text Effects"), parent)
 {
     const TextEffectsModel defaults;
-    setMinimumWidth(660);
     m_ssTabs = new QTabWidget(this);
     m_ssTabs->setObjectName(QStringLiteral("ssTabs"));
     for (const QString &effect : TextEffectsModel::effects())
@@ -50,13 +34,25 @@ frmTextEffects::frmTextEffects(QWidget *parent)
 
     m_txtStringCenter = addLine(QStringLiteral("txtStringCenter"), QStringLiteral("Text:"));
     m_txtStringCenter->setText(defaults.text);
-    m_cmbFontName = addCombo(QStringLiteral("cmbFontName"), QStringLiteral("Font:"), TextEffectsModel::fontNames(), true);
+    // Font and size share a row, as do style and colours, so that the dialog
+    // stays short.
+    auto *font = new QHBoxLayout;
+    m_cmbFontName = new QComboBox(this);
+    m_cmbFontName->setObjectName(QStringLiteral("cmbFontName"));
+    m_cmbFontName->setEditable(true);
+    m_cmbFontName->addItems(TextEffectsModel::fontNames());
     m_cmbFontName->setCurrentText(defaults.fontName);
-    QStringList sizes;
+    m_cmbFontsize = new QComboBox(this);
+    m_cmbFontsize->setObjectName(QStringLiteral("cmbFontsize"));
+    m_cmbFontsize->setEditable(true);
     for (int s : {8, 10, 12, 14, 18, 24, 36, 48, 72})
-        sizes << QString::number(s);
-    m_cmbFontsize = addCombo(QStringLiteral("cmbFontsize"), QStringLiteral("Font size:"), sizes, true);
+        m_cmbFontsize->addItem(QString::number(s));
     m_cmbFontsize->setCurrentText(defaults.fontSize);
+    font->addWidget(m_cmbFontName, 3);
+    font->addWidget(new QLabel(QStringLiteral("Size:"), this));
+    font->addWidget(m_cmbFontsize, 1);
+    form()->addRow(QStringLiteral("Font:"), font);
+
     auto *style = new QHBoxLayout;
     m_bold = new QCheckBox(QStringLiteral("Bold"), this);
     m_bold->setObjectName(QStringLiteral("vsecmdBold"));
@@ -66,8 +62,13 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     style->addWidget(m_italic);
     style->addStretch();
     form()->addRow(QStringLiteral("Style:"), style);
-    m_foreground = addColor(QStringLiteral("vsecmdForeground"), QStringLiteral("Text colour:"), defaults.foreground);
-    m_background = addColor(QStringLiteral("vsecmdBackground"), QStringLiteral("Background:"), defaults.background);
+    auto *colours = new QHBoxLayout;
+    m_foreground = colorButton(QStringLiteral("vsecmdForeground"), defaults.foreground);
+    m_background = colorButton(QStringLiteral("vsecmdBackground"), defaults.background);
+    colours->addWidget(m_foreground, 1);
+    colours->addWidget(new QLabel(QStringLiteral("Background:"), this));
+    colours->addWidget(m_background, 1);
+    form()->addRow(QStringLiteral("Text colour:"), colours);
 
     auto *speed = new QHBoxLayout;
     m_sldSpeed = new QSlider(Qt::Horizontal, this);
@@ -77,7 +78,7 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     m_txtSpeed = new QLineEdit(defaults.speed, this);
     m_txtSpeed->setObjectName(QStringLiteral("txtSpeed"));
     m_txtSpeed->setValidator(new QIntValidator(0, 99999, m_txtSpeed));
-    m_txtSpeed->setMaximumWidth(70);
+    m_txtSpeed->setMaximumWidth(m_txtSpeed->fontMetrics().averageCharWidth() * 9);
     m_sldSpeed->setValue(defaults.speed.toInt());
     speed->addWidget(m_sldSpeed, 1);
     speed->addWidget(m_txtSpeed);
@@ -89,16 +90,27 @@ frmTextEffects::frmTextEffects(QWidget *parent)
                               TextEffectsModel::alignments(), false);
     m_cmbAlignment->setCurrentText(defaults.alignment);
     auto *border = new QHBoxLayout;
-    for (const auto &[name, caption] : {std::pair{"chkBorder", "Border"}, std::pair{"chkBorder3D", "3D border"}}) {
-        auto *box = new QCheckBox(QString::fromLatin1(caption), this);
-        box->setObjectName(QString::fromLatin1(name));
-        border->addWidget(box);
-    }
+    m_chkBorder = new QCheckBox(QStringLiteral("Border"), this);
+    m_chkBorder->setObjectName(QStringLiteral("chkBorder"));
+    m_chkBorder3D = new QCheckBox(QStringLiteral("3D border"), this);
+    m_chkBorder3D->setObjectName(QStringLiteral("chkBorder3D"));
+    m_imgBorderColor = colorButton(QStringLiteral("imgBorderColor"), defaults.borderColor);
+    m_imgBorderColor->setToolTip(QStringLiteral("Border colour"));
+    m_imgBorderColor->setEnabled(false);
+    border->addWidget(m_chkBorder);
+    border->addWidget(m_chkBorder3D);
+    border->addWidget(m_imgBorderColor);
     border->addStretch();
     form()->addRow(QStringLiteral("Border:"), border);
+    for (QCheckBox *tick : {m_chkBorder, m_chkBorder3D})
+        connect(tick, &QCheckBox::toggled, this, [this] {
+            m_imgBorderColor->setEnabled(m_chkBorder->isChecked() || m_chkBorder3D->isChecked());
+        });
     addFallbackCheck();
 
-    auto *actions = new QHBoxLayout;
+    auto *actionRow = new QWidget(this);
+    auto *actions = new QHBoxLayout(actionRow);
+    actions->setContentsMargins(0, 0, 0, 0);
     auto *size = new QPushButton(QStringLiteral("Applet &Size..."), this);
     size->setObjectName(QStringLiteral("cmdSize"));
     auto *show = new QPushButton(QStringLiteral("&Preview"), this);
@@ -106,12 +118,29 @@ frmTextEffects::frmTextEffects(QWidget *parent)
     actions->addWidget(size);
     actions->addWidget(show);
     actions->addStretch();
-    form()->addRow(actions);
     connect(size, &QPushButton::clicked, this, [this] {
         frmTEAppSize dialog(m_size, this);
-        dialog.ask();
+        if (dialog.ask())
+            m_preview->changedIfLive();
     });
     connect(show, &QPushButton::clicked, this, &frmTextEffects::preview);
+
+    // The preview in the dialog: the page beside the current document, with
+    // the classes it names copied there.
+    m_preview = new PreviewPane([this] {
+        TextEffectsModel m = model();
+        return m.previewPage(m.CreateApplet());
+    }, this);
+    m_preview->setObjectName(QStringLiteral("preview"));
+    m_preview->onWritten([](const QString &path, const QString &page) {
+        CopyAppletClasses(page, QFileInfo(path).absolutePath());
+    });
+    addBelowFields(actionRow, 0);
+    addBelowFields(m_preview);
+    m_preview->hide();   // until the first preview
+    followChanges();
+    // Wide enough for every effect's tab where the screen allows.
+    letFieldsScroll(m_ssTabs->tabBar()->sizeHint().width() + 4 * QWidget::style()->pixelMetric(QStyle::PM_LayoutLeftMargin));
 
     connect(m_cmbFontName->lineEdit(), &QLineEdit::editingFinished, this, [this] {
         if (!ValidFontName(m_cmbFontName->currentText()))
@@ -197,6 +226,9 @@ TextEffectsModel frmTextEffects::model() const
     m.spearmintEat = m_chkSpearmint->isChecked();
     m.gradient = m_chkGradient->isChecked();
     m.minFont = m_txtMinFont->text();
+    m.border = m_chkBorder->isChecked();
+    m.border3D = m_chkBorder3D->isChecked();
+    m.borderColor = colorOf(m_imgBorderColor);
     return m;
 }
 
@@ -210,13 +242,23 @@ QString frmTextEffects::appletText()
 
 void frmTextEffects::preview()
 {
-    const TextEffectsModel m = model();
-    const QString path = WriteAppletPreview(m.previewPage(appletText()), documentDirectory());
-    if (path.isEmpty()) {
-        platform::MsgBox(QStringLiteral("The preview could not be written."));
-        return;
+    appletText();   // an empty text field receives the maker's text
+    m_preview->showLive(this);
+}
+
+void frmTextEffects::followChanges()
+{
+    auto changed = [this] { m_preview->changedIfLive(); };
+    for (QLineEdit *edit : findChildren<QLineEdit *>())
+        connect(edit, &QLineEdit::textChanged, this, changed);
+    for (QAbstractButton *tick : findChildren<QAbstractButton *>()) {
+        if (tick->isCheckable())
+            connect(tick, &QAbstractButton::toggled, this, changed);
     }
-    core::ui::OpenInBrowser(QUrl::fromLocalFile(path));
+    for (QComboBox *box : findChildren<QComboBox *>())
+        connect(box, &QComboBox::currentTextChanged, this, changed);
+    connect(m_ssTabs, &QTabWidget::currentChanged, this, changed);
+    connect(this, &FieldsDialog::colorChosen, this, changed);
 }
 
 bool frmTextEffects::confirm()

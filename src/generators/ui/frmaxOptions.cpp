@@ -45,7 +45,9 @@ frmaxOptions::frmaxOptions(const QStringList &sample, QWidget *parent)
     m_txtCode->setText(o.code);
     m_txtPreview = addText(QStringLiteral("txtPreview"), QStringLiteral("Sample:"));
     m_txtPreview->setReadOnly(true);
-    m_txtPreview->setMinimumWidth(480);
+    for (QWidget *box : {id, tag, tagCase, lines})
+        static_cast<QHBoxLayout *>(box->layout())->addStretch();
+    m_txtPreview->setMinimumWidth(fontMetrics().averageCharWidth() * 64);
     for (QRadioButton *r : findChildren<QRadioButton *>())
         connect(r, &QRadioButton::toggled, this, &frmaxOptions::showSample);
     for (QLineEdit *e : {m_txtWidth, m_txtHeight, m_txtCode})

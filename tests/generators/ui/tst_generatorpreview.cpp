@@ -1,10 +1,13 @@
-// The live previews of the table and frame editors in a real browser
-// engine (under Xvfb: the engine does not run on the offscreen platform).
+// The live previews of the generator dialogs in a real browser engine
+// (under Xvfb: the engine does not run on the offscreen platform).
 #include "app/MainWindow.h"
 #include "core/Settings.h"
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
+#include "generators/AppletFallback.h"
 #include "generators/ui/PreviewPane.h"
+#include "generators/ui/frmAXObjects.h"
+#include "generators/ui/frmTextEffects.h"
 #include "generators/ui/frmFrame.h"
 #include "generators/ui/frmTable.h"
 #include "platform/HTMLEdit.h"
@@ -12,6 +15,9 @@
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
+#include <QCheckBox>
+#include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QWebEnginePage>
@@ -47,6 +53,8 @@ private slots:
     void cleanup();
     void tablePreviewFollowsTheFields();
     void framePreviewShowsTheLayout();
+    void textEffectPreviewFollowsTheFields();
+    void objectPreviewShowsTheTag();
 
 private:
     std::unique_ptr<test::TestEnv> m_env;
@@ -103,6 +111,50 @@ void tst_GeneratorPreview::framePreviewShowsTheLayout()
     dialog.cmdAdd_Click();
     QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 2, 30000);
     QTRY_COMPARE_WITH_TIMEOUT(evaluate(view, QStringLiteral("window.frames.length")).toInt(), 4, 20000);
+}
+
+void tst_GeneratorPreview::textEffectPreviewFollowsTheFields()
+{
+    m_env->write(QStringLiteral("classes/lfbounce.class"), "bounce");
+    generators::SetAppletFallback(true);
+    generators::ui::frmTextEffects dialog(m_main.get());
+    dialog.show();
+    dialog.findChild<QLineEdit *>(QStringLiteral("txtStringCenter"))->clear();
+    dialog.preview();
+    QWebEngineView *view = dialog.previewPane()->view();
+    QVERIFY(view);
+    QSignalSpy loaded(view, &QWebEngineView::loadFinished);
+    QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
+    // The page stands beside the document, with the class it names.
+    const QString page = dialog.previewPane()->pagePath();
+    QCOMPARE(QFileInfo(page).absolutePath(), QFileInfo(m_env->path(QStringLiteral("page.html"))).absolutePath());
+    QVERIFY(QFileInfo::exists(QFileInfo(page).absolutePath() + QStringLiteral("/lfbounce.class")));
+    QCOMPARE(evaluate(view, QStringLiteral("document.querySelector('applet span').textContent")).toString(),
+             QStringLiteral("Lumenfold Software"));
+
+    // A border ticked shows after the idle second.
+    dialog.findChild<QCheckBox *>(QStringLiteral("chkBorder"))->setChecked(true);
+    QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 2, 30000);
+    QCOMPARE(evaluate(view, QStringLiteral("getComputedStyle(document.querySelector('applet div')).borderTopStyle"))
+                 .toString(),
+             QStringLiteral("solid"));
+}
+
+void tst_GeneratorPreview::objectPreviewShowsTheTag()
+{
+    QFile shipped(QStringLiteral(TEST_DATA_DIR "/../../data/axobjects.inf"));
+    QVERIFY(shipped.open(QIODevice::ReadOnly));
+    m_env->write(QStringLiteral("axobjects.inf"), shipped.readAll());
+    generators::ui::frmAXObjects dialog(m_main.get());
+    dialog.show();
+    dialog.chooseControl(0);
+    dialog.preview();
+    QWebEngineView *view = dialog.previewPane()->view();
+    QVERIFY(view);
+    QSignalSpy loaded(view, &QWebEngineView::loadFinished);
+    QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
+    QCOMPARE(evaluate(view, QStringLiteral("document.title")).toString(), QStringLiteral("ActiveX Preview"));
+    QVERIFY(!evaluate(view, QStringLiteral("document.querySelector('object').id")).toString().isEmpty());
 }
 
 QTEST_MAIN(tst_GeneratorPreview)

@@ -93,6 +93,20 @@ void tst_InsertCommands::singleElementAndScriptIntoADocument()
     QCOMPARE(edit.Text(), before);
     QCOMPARE(prompts.texts().size(), 1);
     QVERIFY(prompts.texts().first().endsWith(QLatin1String("LastUpdated.tpl cannot be found.")));
+
+    // The subscribe button is the ordinary link: around the selection, else with the button's text.
+    documents::Document *page = documents::NewDocument(env.write(QStringLiteral("s.tpl"), "<P>Join</P>"));
+    QVERIFY(page);
+    const QString link = QStringLiteral("<A HREF=\"news.cdf\">");
+    for (const auto &[from, to] : {std::pair{3, 7}, std::pair{0, 0}}) {
+        page->txtDoc().SetSel(from, to);
+        answerNextDialog([](QWidget *d) {
+            d->findChild<QLineEdit *>(QStringLiteral("txtButtonName"))->setText(QStringLiteral("Add"));
+            d->findChild<QLineEdit *>(QStringLiteral("txtURL"))->setText(QStringLiteral("news.cdf"));
+        });
+        QVERIFY(w->commands().run(QStringLiteral("InsertACSubscribe")));
+    }
+    QCOMPARE(page->txtDoc().Text(), link + QStringLiteral("Add</A><P>") + link + QStringLiteral("Join</A></P>"));
     test::closeMainWindow(w);
 }
 
