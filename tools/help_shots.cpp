@@ -46,7 +46,8 @@ const Shot kShots[] = {
     {"frmTableTemp", "InsertTableTemp"}, {"frmImageMap", "InsertImageMap"},
     {"frmFormEditor", "InsertForm"},     {"frmTextEffects", "InsertTextEffects"},
     {"frmAXObjects", "InsertActiveX"},   {"frmProjectManager", "mnuProjectMan"},
-    {"frmFilterKeys", "FilterTags"},
+    {"frmFilterKeys", "FilterTags"},     {"frmUpload", "ToolsUploadFiles"},
+    {"frmAutoDown", "ToolsDownload"},
 };
 
 // The dialog named `topic` once it shows: pictured, then closed.
