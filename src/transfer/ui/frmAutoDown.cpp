@@ -35,14 +35,6 @@ QLineEdit *field(QWidget *parent, const char *name)
     return edit;
 }
 
-QPushButton *button(const QString &caption, QWidget *parent, const char *name)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(QString::fromLatin1(name));
-    b->setAutoDefault(false);
-    return b;
-}
-
 } // namespace
 
 frmAutoDown::frmAutoDown(QWidget *parent) : QDialog(parent)
@@ -63,28 +55,28 @@ frmAutoDown::frmAutoDown(QWidget *parent) : QDialog(parent)
     status->addWidget(caption);
     status->addWidget(m_status, 1);
 
-    m_btnFetch = button(QStringLiteral("Download"), this, "btnFetch");
+    auto *buttons = new QDialogButtonBox(this);
+    const auto add = [buttons](const QString &caption, QDialogButtonBox::ButtonRole role, const char *name) {
+        QPushButton *b = buttons->addButton(caption, role);
+        b->setObjectName(QString::fromLatin1(name));
+        return b;
+    };
+    m_btnFetch = add(QStringLiteral("Download"), QDialogButtonBox::ActionRole, "btnFetch");
     m_btnFetch->setDefault(true);
-    QPushButton *servers = button(QStringLiteral("Edit Server List"), this, "btnEditServers");
-    QPushButton *close = button(QStringLiteral("Close"), this, "btnClose");
-    QPushButton *help = button(QStringLiteral("Help"), this, "Command1");
     connect(m_btnFetch, &QPushButton::clicked, this, &frmAutoDown::btnFetch_Click);
-    connect(servers, &QPushButton::clicked, this, &frmAutoDown::btnEditServers_Click);
-    connect(close, &QPushButton::clicked, this, &frmAutoDown::btnClose_Click);
-    connect(help, &QPushButton::clicked, this, [this] { core::ui::OpenHelp(objectName()); });
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(help);
-    buttons->addWidget(servers);
-    buttons->addStretch();
-    buttons->addWidget(m_btnFetch);
-    buttons->addWidget(close);
+    connect(add(QStringLiteral("Edit Server List"), QDialogButtonBox::ActionRole, "btnEditServers"),
+            &QPushButton::clicked, this, &frmAutoDown::btnEditServers_Click);
+    connect(add(QStringLiteral("Close"), QDialogButtonBox::ActionRole, "btnClose"), &QPushButton::clicked, this,
+            &frmAutoDown::btnClose_Click);
+    connect(add(QStringLiteral("Help"), QDialogButtonBox::HelpRole, "Command1"), &QPushButton::clicked, this,
+            [this] { core::ui::OpenHelp(objectName()); });
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(buildServer());
     layout->addWidget(buildSite());
     layout->addLayout(status);
     layout->addWidget(m_counts);
-    layout->addLayout(buttons);
+    layout->addWidget(buttons);
     m_cmbHost->setFocus();
 }
 

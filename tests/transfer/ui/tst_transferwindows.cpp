@@ -62,11 +62,6 @@ void click(const QWidget *w, const char *name)
 
 } // namespace
 
-#define SERVER(name, root)                                                                                         \
-    test::FtpTestServer name(root);                                                                                \
-    if (!name.started())                                                                                           \
-        QSKIP(qPrintable(name.problem()));
-
 class tst_TransferWindows : public QObject
 {
     Q_OBJECT
@@ -104,7 +99,7 @@ void tst_TransferWindows::uploadSendsWebsiteWithItsPictures()
 {
     QTemporaryDir root;
     QDir(root.path()).mkdir(QStringLiteral("www"));
-    SERVER(server, root.path());
+    QLY_FTP_SERVER(server, root.path());
     const QByteArray gif = QByteArray("GIF89a") + QByteArray(4000, '\x02');
     const QString logo = m_env->write(QStringLiteral("site/logo.gif"), gif);
     const QByteArray indexText = "<html><body><img src=\"logo.gif\">\n<a href=\"about.htm\">About</a></body></html>\n";
@@ -217,7 +212,7 @@ void tst_TransferWindows::downloadFetchesSiteIntoProject()
         "<html><body><img src=\"pic.gif\"><img src=\"missing.gif\"><a href=\"sub/two.htm\">2</a></body></html>\n");
     put(root.path() + QStringLiteral("/www/sub/two.htm"), "<a href=\"../index.htm\">home</a>\n");
     put(root.path() + QStringLiteral("/www/pic.gif"), QByteArray("GIF89a") + QByteArray(2000, '\x03'));
-    SERVER(server, root.path());
+    QLY_FTP_SERVER(server, root.path());
     transfer::sharedSession().TimeoutSeconds = 10;
 
     const QString save = m_env->path(QStringLiteral("copy"));
