@@ -22,6 +22,8 @@
 #include "websites/Websites.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
+#include <QPointer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -60,6 +62,19 @@ void click(const QWidget *w, const char *name)
     QTest::mouseClick(w->findChild<QPushButton *>(QString::fromLatin1(name)), Qt::LeftButton);
 }
 
+// A website project on the test server's directory "www" with the files
+// given, and the server's login.
+QString writeProject(const test::TestEnv &env, const test::FtpTestServer &server, const QStringList &files)
+{
+    QByteArray text = "[Details]\r\nName=Test Site\r\nHost=" + server.host().toUtf8()
+                      + "\r\nDirectory=www\r\nLogin As=tester\r\nPassword="
+                      + websites::ScramblePassword(test::FtpTestServer::password(), QStringLiteral("ENC")).toUtf8()
+                      + "\r\n[Files]\r\n";
+    for (qsizetype i = 0; i < files.size(); ++i)
+        text += QByteArray::number(i) + '=' + files.at(i).toUtf8() + "\r\n";
+    return env.write(QStringLiteral("site.prj"), text);
+}
+
 } // namespace
 
 class tst_TransferWindows : public QObject
@@ -69,6 +84,7 @@ private slots:
     void init();
     void cleanup();
     void uploadSendsWebsiteWithItsPictures();
+    void closeStopsAnUpload();
     void downloadChecksItsFields();
     void downloadFetchesSiteIntoProject();
 
@@ -105,11 +121,7 @@ void tst_TransferWindows::uploadSendsWebsiteWithItsPictures()
     const QByteArray indexText = "<html><body><img src=\"logo.gif\">\n<a href=\"about.htm\">About</a></body></html>\n";
     const QString index = m_env->write(QStringLiteral("site/index.htm"), indexText);
     const QString about = m_env->write(QStringLiteral("site/about.htm"), "<p>About <img src=logo.gif></p>\n");
-    const QString prj = m_env->write(
-        QStringLiteral("site.prj"),
-        "[Details]\r\nName=Test Site\r\nHost=" + server.host().toUtf8() + "\r\nDirectory=www\r\nLogin As=tester\r\n"
-            "Password=" + websites::ScramblePassword(QStringLiteral("secret"), QStringLiteral("ENC")).toUtf8()
-            + "\r\n[Files]\r\n0=" + index.toUtf8() + "\r\n1=" + about.toUtf8() + "\r\n");
+    const QString prj = writeProject(*m_env, server, {index, about});
     QVERIFY(websites::OpenWebsite(prj));
     const int id = websites::WebsiteList::instance().CurrentWebsite();
 
@@ -163,6 +175,35 @@ void tst_TransferWindows::uploadSendsWebsiteWithItsPictures()
     m_prompts->shown.clear();
     click(w, "btnSend");
     QCOMPARE(m_prompts->texts(), QStringList{QStringLiteral("The project file could not be found")});
+}
+
+void tst_TransferWindows::closeStopsAnUpload()
+{
+    QTemporaryDir root;
+    QDir(root.path()).mkdir(QStringLiteral("www"));
+    // 200 kB a second: the picture would take twenty.
+    QLY_FTP_SERVER(server, root.path(), {QStringLiteral("--read-limit"), QStringLiteral("200000")});
+    m_env->write(QStringLiteral("site/big.gif"), QByteArray(4000000, 'g'));
+    const QString index = m_env->write(QStringLiteral("site/index.htm"), "<img src=big.gif>\n");
+    QVERIFY(websites::OpenWebsite(writeProject(*m_env, server, {index})));
+    QVERIFY(documents::OpenDocumentFile(index));
+    QVERIFY(m_main->commands().run(QStringLiteral("mnuUploadProject")));
+    QPointer<frmUpload> w = frmUpload::instance();
+    QCOMPARE(w->list().rows.size(), size_t(2));
+    connect(&w->ftp(), &transfer::FtpClient::ftp_Progress, w, [&w](qint64 bytes) {
+        if (bytes > 0 && w->sending())
+            click(w, "btnClose");
+    });
+    QElapsedTimer clock;
+    clock.start();
+    click(w, "btnSend");
+    QVERIFY(clock.elapsed() < 10000);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!w);
+    QVERIFY(!frmUpload::instance());
+    // No message about the transfers stopped.
+    QCOMPARE(m_prompts->shown.size(), 0);
+    QVERIFY(QFileInfo(root.path() + QStringLiteral("/www/big.gif")).size() < 4000000);
 }
 
 void tst_TransferWindows::downloadChecksItsFields()
