@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QLocale>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
@@ -175,9 +176,9 @@ void frmUpload::btnSend_Click()
             [this](int percent, qint64 bytes, qint64 total, int filesDone, int files) {
                 m_pbProgress->setVisible(true);
                 m_pbProgress->setValue(percent);
-                m_pbProgress->setFormat(QStringLiteral("%p%   %1 of %2 bytes, %3 of %4 files")
-                                            .arg(bytes)
-                                            .arg(total)
+                const QLocale locale;
+                m_pbProgress->setFormat(QStringLiteral("%p%   %1 of %2, %3/%4 files")
+                                            .arg(locale.formattedDataSize(bytes), locale.formattedDataSize(total))
                                             .arg(filesDone)
                                             .arg(files));
             });
