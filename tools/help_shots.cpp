@@ -11,6 +11,7 @@
 #include "platform/HTMLEdit.h"
 #include "support/MainWindowHost.h"
 #include "support/TestEnv.h"
+#include "websites/Websites.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -60,6 +61,7 @@ const Shot kShots[] = {
     {"frmTextArea", "InsertTextArea"},   {"frmListBox", "InsertFormList"},
     {"frmFormImage", "InsertFormImage"}, {"frmSubmit", "InsertSubmit"},
     {"frmReset", "InsertReset"},         {"frmAnimator", "InsertAnimation"},
+    {"frmUpload", "ToolsUploadFiles"},   {"frmAutoDown", "ToolsDownload"},
 };
 
 // The dialog named `topic` once it shows: pictured, then closed.
@@ -84,6 +86,17 @@ void pictureWhenShown(const QString &topic, const QString &file, bool &taken, in
     });
 }
 
+// A small website, open and selected, for the pictures of the upload window.
+void openExampleWebsite(const test::TestEnv &env)
+{
+    env.write(QStringLiteral("site/logo.gif"), "GIF89a");
+    const QByteArray index = env.write(QStringLiteral("site/index.htm"), "<img src=\"logo.gif\">\n").toUtf8();
+    const QByteArray about = env.write(QStringLiteral("site/about.htm"), "<p>About</p>\n").toUtf8();
+    websites::OpenWebsite(env.write(QStringLiteral("site/site.prj"),
+                                    "[Details]\r\nName=My Site\r\nHost=ftp.example.com\r\nDirectory=www\r\n"
+                                    "[Files]\r\n0=" + index + "\r\n1=" + about + "\r\n"));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -102,6 +115,7 @@ int main(int argc, char **argv)
     documents::Document *doc = documents::CreateDocumentWindow();
     core::gLoadingDocument = false;
     doc->txtDoc().setText(QStringLiteral("<HTML>\r\n<BODY>\r\n<P>A page.</P>\r\n</BODY>\r\n</HTML>\r\n"));
+    openExampleWebsite(env);
     int failed = 0;
     for (const Shot &shot : kShots) {
         const QString topic = QString::fromLatin1(shot.topic);

@@ -14,7 +14,6 @@
 #include "generators/ui/FormAndScriptCommands.h"
 #include "markup/ui/MarkupCommands.h"
 #include "markup/ui/TagCommands.h"
-#include "platform/Prompts.h"
 #include "publish/ui/PreviewCommands.h"
 #include "tagdialogs/ui/TagDialogCommands.h"
 #include "texttools/ui/TextToolCommands.h"
@@ -33,8 +32,7 @@ QString N(const char *name)
     return QString::fromLatin1(name);
 }
 
-// The commands of the main window itself: exit, options, help, and the
-// website messages.
+// The commands of the main window itself: exit, options and help.
 void registerMainCommands(frmMain &w)
 {
     core::ui::CommandTable &t = w.commands();
@@ -45,10 +43,6 @@ void registerMainCommands(frmMain &w)
     t.bind(N("HelpContents"), [] { core::ui::OpenHelp(); });
     t.bind(N("HelpSearch"), [] { core::ui::OpenHelp(QStringLiteral("search")); });
     t.bind(N("HelpAbout"), [&w] { core::ui::frmMe(&w); });
-
-    t.bind(N("mnuUploadProject"), [] {
-        platform::MsgBox(QStringLiteral("Please select a Website before uploading it."));
-    });
 }
 
 } // namespace

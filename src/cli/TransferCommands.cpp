@@ -4,10 +4,13 @@
 #include "transfer/FtpSession.h"
 #include "transfer/SiteDownload.h"
 #include "transfer/TreeUpload.h"
+#include "transfer/WebsiteProjects.h"
 
 #include <QDir>
 #include <QFile>
 #include <QObject>
+#include <optional>
+#include <utility>
 
 #include <cstdio>
 #include <unistd.h>
@@ -27,6 +30,7 @@ struct Session {
     QString user;
     QString password;
     QString directory;
+    QString website;   // a project file that gives the four above
     int timeout = 30;
     int parallel = 4;
 };
@@ -54,6 +58,9 @@ bool takeOptions(const QStringList &arguments, Session &s, QStringList &rest, QS
         } else if (a == QLatin1String("--dir")) {
             if (!value(s.directory))
                 return false;
+        } else if (a == QLatin1String("--website")) {
+            if (!value(s.website))
+                return false;
         } else if (a == QLatin1String("--timeout") || a == QLatin1String("--parallel")) {
             if (!value(number) || number.toInt() <= 0)
                 return false;
@@ -62,6 +69,20 @@ bool takeOptions(const QStringList &arguments, Session &s, QStringList &rest, QS
             flags << a;
         } else {
             rest << a;
+        }
+    }
+    // A website project gives what the options leave out.
+    if (!s.website.isEmpty()) {
+        const std::optional<transfer::WebsiteServer> server = transfer::ReadWebsiteServer(s.website);
+        if (!server) {
+            say(QStringLiteral("quillery-cli: no website project %1\n").arg(s.website));
+            return false;
+        }
+        for (auto [into, from] : {std::pair{&s.host, &server->host}, std::pair{&s.user, &server->login},
+                                  std::pair{&s.password, &server->password},
+                                  std::pair{&s.directory, &server->directory}}) {
+            if (into->isEmpty())
+                *into = *from;
         }
     }
     if (s.password.isEmpty())
@@ -84,7 +105,9 @@ void prepare(transfer::FtpClient &ftp, const Session &s)
 const char *const kUploadUsage =
     "Usage: quillery-cli upload --host HOST [--user NAME] [--password PW] [--dir REMOTE-DIR]\n"
     "                           [--only-changed] [--timeout SECONDS] [--parallel N] FILE|DIR...\n"
-    "The password may also come from QUILLERY_FTP_PASSWORD. HOST may be sftp://host or ftps://host.\n";
+    "       quillery-cli upload --website PROJECT.prj [options as above] FILE|DIR...\n"
+    "The password may also come from QUILLERY_FTP_PASSWORD. HOST may be sftp://host or ftps://host.\n"
+    "A website project gives the server, login, stored password and directory that are not given.\n";
 
 } // namespace
 
@@ -155,6 +178,7 @@ int downloadCommand(const QStringList &arguments)
         return ExitUsage;
     transfer::FtpClient ftp;
     prepare(ftp, s);
+    transfer::useWebsiteProjects();
     transfer::SiteDownload run(ftp, fields);
     QObject::connect(&run, &transfer::SiteDownload::status, [](const QString &text) {
         if (!text.isEmpty())

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QStorageInfo>
 
 namespace qly::transfer {
 
@@ -44,6 +45,17 @@ QString directoryOf(const QString &relative)
 
 } // namespace
 
+bool CheckDrive(const QString &directory)
+{
+    QFileInfo at(QDir::cleanPath(QDir(directory).absolutePath()));
+    while (!at.exists() && !at.isRoot())
+        at = QFileInfo(at.absolutePath());
+    if (!at.isDir() || !at.isWritable())
+        return false;
+    const QStorageInfo storage(at.absoluteFilePath());
+    return storage.isValid() && storage.isReady() && !storage.isReadOnly();
+}
+
 QString validateSiteDownload(SiteDownloadFields &f)
 {
     using platform::Buttons;
@@ -55,14 +67,16 @@ QString validateSiteDownload(SiteDownloadFields &f)
         refuse(QStringLiteral("No Host Name"), QStringLiteral("Please enter a host name for the site"));
         return QStringLiteral("cmbHost");
     }
-    if (f.saveDirectory.trimmed().isEmpty()) {
+    // Drive letters are gone: a relative directory hangs below the program's
+    // directory, and every directory gets the writable-place test.
+    if (!f.saveDirectory.trimmed().isEmpty() && QDir::isRelativePath(f.saveDirectory))
+        f.saveDirectory = core::JoinPath(core::ProgramDirectory(), f.saveDirectory);
+    if (f.saveDirectory.trimmed().isEmpty() || !CheckDrive(f.saveDirectory)) {
         refuse(platform::programTitle() + QStringLiteral(" Drive Is Not Valid"),
                QStringLiteral("The drive you wish to download your site to does not exist, or is not capable of "
                               "saving the site.  Please select one that can."));
         return QStringLiteral("txtsavedirectory");
     }
-    if (QDir::isRelativePath(f.saveDirectory))
-        f.saveDirectory = core::JoinPath(core::ProgramDirectory(), f.saveDirectory);
     if (!core::DirExists(f.saveDirectory)) {
         const platform::Answer make = platform::MsgBox(
             QStringLiteral("Save directory does not exist.  Create it now ?"), Buttons::YesNo, Icon::Question,

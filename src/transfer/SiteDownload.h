@@ -22,10 +22,17 @@ struct SiteDownloadFields {
     bool overwrite = false;
 };
 
+// Whether a site can be saved under `directory`: its nearest existing
+// folder is writable and lies on a mounted, writable file system. (The
+// drive-type test of drive-letter systems has no meaning here; this is the
+// question it asked.)
+bool CheckDrive(const QString &directory);
+
 // The dialog's checks before a download, in order, each with its message;
 // a missing save directory is offered to be made. Returns the name of the
 // field at fault ("cmbHost", "txtsavedirectory", ...), empty when all is
-// well. A relative save directory is made absolute in `fields`.
+// well. A relative save directory is taken as relative to the program's
+// directory and made absolute in `fields`.
 QString validateSiteDownload(SiteDownloadFields &fields);
 
 // Fetches a site over FTP from its index page: each page is read for what

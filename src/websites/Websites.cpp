@@ -73,6 +73,12 @@ WebsiteHooks &websiteHooks()
     return hooks;
 }
 
+void WebsiteMan_WSUpload(int id)
+{
+    if (websiteHooks().showWebsiteUpload)
+        websiteHooks().showWebsiteUpload(id);
+}
+
 bool OpenWebsite(const QString &pathIn)
 {
     Wait wait;

@@ -12,6 +12,8 @@ namespace qly::websites {
 struct WebsiteHooks {
     // The Open Website dialog: a chosen project file, or empty.
     std::function<QString()> chooseWebsiteFile;
+    // The website tree's ShowWebsiteUpload: the upload window for a website.
+    std::function<void(int id)> showWebsiteUpload;
 };
 WebsiteHooks &websiteHooks();
 
@@ -22,6 +24,9 @@ WebsiteHooks &websiteHooks();
 // path that does not exist, or a cancel, stops silently; a damaged project
 // file is named in a message and left as it is. True when it has files.
 bool OpenWebsite(const QString &path);
+
+// The tree's upload event: hands the website to ShowWebsiteUpload.
+void WebsiteMan_WSUpload(int id);
 
 // Writes the website's files back to [Files] (the key-0 rule of
 // WriteProjectFiles) and removes the website from the tree.

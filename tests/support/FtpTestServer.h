@@ -29,3 +29,10 @@ private:
 };
 
 } // namespace qly::test
+
+// Declares the server `name` on `root` (options as the script takes them),
+// or skips the test when no server can start.
+#define QLY_FTP_SERVER(name, root, ...)                                                                            \
+    qly::test::FtpTestServer name(root, ##__VA_ARGS__);                                                            \
+    if (!name.started())                                                                                           \
+        QSKIP(qPrintable(name.problem()));

@@ -59,9 +59,7 @@ void tst_sitedownload::crawlReproducesSite()
     const QByteArray gif = QByteArray("GIF89a") + QByteArray(3000, '\x01');
     for (const char *name : {"bg.jpg", "pic.gif", "Anim.class", "f1.gif", "f2.gif", "sub/img/deep.jpg"})
         put(site, QString::fromLatin1(name), gif);
-    test::FtpTestServer server(root.path());
-    if (!server.started())
-        QSKIP(qPrintable(server.problem()));
+    QLY_FTP_SERVER(server, root.path());
 
     SiteDownloadFields f;
     f.host = server.host();

@@ -39,11 +39,6 @@ void setUp(FtpClient &ftp, const test::FtpTestServer &server)
 
 } // namespace
 
-#define SERVER(name, root, ...)                                                                                    \
-    test::FtpTestServer name(root, ##__VA_ARGS__);                                                                 \
-    if (!name.started())                                                                                           \
-        QSKIP(qPrintable(name.problem()));
-
 class tst_upload : public QObject
 {
     Q_OBJECT
@@ -93,7 +88,7 @@ void tst_upload::folderWithImages()
     test::ScriptedPrompts prompts;
     QTemporaryDir root;
     QDir(root.path()).mkdir(QStringLiteral("www"));
-    SERVER(server, root.path());
+    QLY_FTP_SERVER(server, root.path());
 
     UploadList list;
     QHash<QString, QByteArray> files;
@@ -150,7 +145,7 @@ void tst_upload::refusedDirectoryAndLogin()
     test::ScriptedPrompts prompts;
     QTemporaryDir root;
     QDir(root.path()).mkdir(QStringLiteral("locked"));
-    SERVER(server, root.path(), {QStringLiteral("--locked"), QStringLiteral("locked")});
+    QLY_FTP_SERVER(server, root.path(), {QStringLiteral("--locked"), QStringLiteral("locked")});
     FtpClient ftp;
     ftp.TimeoutSeconds = 10;
 
@@ -230,7 +225,7 @@ void tst_upload::remoteDocumentSavesBack()
     installRemoteDocumentHooks();
     QString tempFile;
     {
-        SERVER(server, root.path());
+        QLY_FTP_SERVER(server, root.path());
         FtpClient &ftp = sharedSession();
         setUp(ftp, server);
         ftp.setAction(FtpClient::Connect);

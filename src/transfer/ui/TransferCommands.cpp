@@ -1,18 +1,55 @@
 #include "transfer/ui/TransferCommands.h"
 
 #include "core/Feedback.h"
+#include "core/ui/CommandTable.h"
 #include "core/ui/EscapeWatch.h"
+#include "core/ui/Shell.h"
+#include "platform/Prompts.h"
 #include "transfer/FtpClient.h"
 #include "transfer/FtpSession.h"
 #include "transfer/RemoteDocuments.h"
+#include "transfer/WebsiteProjects.h"
+#include "transfer/ui/frmAutoDown.h"
+#include "transfer/ui/frmUpload.h"
+#include "websites/WebsiteList.h"
+#include "websites/Websites.h"
 
+#include <QMainWindow>
+#include <algorithm>
 #include <memory>
 
 namespace qly::transfer::ui {
 
-void registerTransferCommands(core::ui::Shell &)
+namespace {
+
+// Upload Files, Upload Website and Download site via FTP.
+void registerWindows(core::ui::Shell &shell)
 {
+    QMainWindow *window = shell.mainWindow();
+    core::ui::CommandTable &t = shell.commands();
+    websites::websiteHooks().showWebsiteUpload = [window](int id) { ShowUpload(id, window); };
+    t.bind(QStringLiteral("ToolsUploadFiles"), [window] {
+        // The selected website; the first one when none is selected.
+        ShowUpload(std::max(websites::WebsiteList::instance().CurrentWebsite(), 0), window);
+    });
+    t.bind(QStringLiteral("mnuUploadProject"), [] {
+        const int id = websites::WebsiteList::instance().CurrentWebsite();
+        if (id < 0) {
+            platform::MsgBox(QStringLiteral("Please select a Website before uploading it."));
+            return;
+        }
+        websites::WebsiteMan_WSUpload(id);
+    });
+    t.bind(QStringLiteral("ToolsDownload"), [window] { ShowAutoDown(window); });
+}
+
+} // namespace
+
+void registerTransferCommands(core::ui::Shell &shell)
+{
+    useWebsiteProjects();
     installRemoteDocumentHooks();
+    registerWindows(shell);
     FtpClient &ftp = sharedSession();
     QObject::connect(&ftp, &FtpClient::ftp_LastError, &ftp,
                      [&ftp](int code, QString &text) { tell(mainErrorReport(code, text, ftp)); });

@@ -8,7 +8,8 @@ namespace qly::transfer::ui {
 
 // The main window's side of the shared FTP session: its errors shown as
 // the main window shows them, progress in the status bar, Escape stopping
-// a transfer, and documents saved back to their servers.
+// a transfer, and documents saved back to their servers; the upload and
+// site download windows and their commands.
 void registerTransferCommands(core::ui::Shell &shell);
 
 } // namespace qly::transfer::ui
