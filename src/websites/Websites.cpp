@@ -119,16 +119,58 @@ bool OpenWebsite(const QString &pathIn)
 
     const bool openAll = core::ReadSettingFlag(QStringLiteral("General"), QStringLiteral("Open All Proj Files"));
     const QStringList files = ReadProjectFiles(path);
+    int leftOut = 0;
     for (const QString &file : files) {
+        if (!list.AddWebsiteFile(id, file)) {
+            ++leftOut;
+            continue;
+        }
         if (openAll)
             documents::OpenDocumentFile(file);
-        list.AddWebsiteFile(id, file);
+    }
+    if (leftOut > 0) {
+        list.website(id)->leftOut = leftOut;
+        list.detailsChanged();
+        platform::MsgBox(QStringLiteral("The website \"%1\" lists %2 files, but a website holds %3 at most. "
+                                        "The last %4 are not shown in the Website tab and are not opened; "
+                                        "they stay in the project file %5 as they are.")
+                             .arg(name).arg(files.size()).arg(MaxProjectFileIndex + 1).arg(leftOut).arg(path),
+                         platform::Buttons::Ok, platform::Icon::Exclamation);
     }
     if (files.isEmpty())
         return false;
     StampLastOpened(path);
     documents::AddRecentFile(path);
     return true;
+}
+
+void RefreshWebsite(int id)
+{
+    WebsiteList &list = WebsiteList::instance();
+    WebsiteList::Website *w = list.website(id);
+    if (!w)
+        return;
+    Wait wait;
+    const QString path = w->projectFile;
+    if (!core::FileExists(path)) {
+        core::ShowStatus(QStringLiteral("The project file ") + path + QStringLiteral(" could not be found"));
+    } else if (const QString problem = ProjectFileProblem(path); !problem.isEmpty()) {
+        core::ErrorBox(problem);
+    } else {
+        w->name = read(path, "Name");
+        w->localDirectory = read(path, "Local Directory");
+        w->host = read(path, "Host");
+        w->remoteDirectory = read(path, "Directory");
+        w->login = read(path, "Login As");
+        w->password = ProjectPassword(path);
+    }
+    // Files checked before are checked again, as they now stand on disk.
+    const QStringList files = w->files;
+    for (const QString &file : files) {
+        if (list.hasFileLinkResults(file))
+            ScanNodeLinks(file);
+    }
+    list.detailsChanged();
 }
 
 void CloseWebsite(int id)
@@ -150,9 +192,9 @@ void CloseAllWebsites()
         CloseWebsite(list.WebsiteIdAt(0));
 }
 
-void AddFiletoList(const QString &path, int id)
+bool AddFiletoList(const QString &path, int id)
 {
-    WebsiteList::instance().AddWebsiteFile(id, path);
+    return WebsiteList::instance().AddWebsiteFile(id, path);
 }
 
 void WebsiteAddFiles(int id)
@@ -168,8 +210,14 @@ void WebsiteAddFiles(int id)
     request.defaultSuffix = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"));
     request.multiple = true;
     const platform::FileAnswer answer = platform::prompts().openFile(request);
+    int refused = 0;
     for (const QString &file : answer.files)
-        AddFiletoList(file, id);
+        refused += AddFiletoList(file, id) ? 0 : 1;
+    if (refused > 0)
+        platform::MsgBox(QStringLiteral("The website \"%1\" holds %2 files, the most a website can hold. "
+                                        "%3 of the chosen files were not added.")
+                             .arg(w->name).arg(MaxProjectFileIndex + 1).arg(refused),
+                         platform::Buttons::Ok, platform::Icon::Exclamation);
 }
 
 void FileAddFiles()

@@ -28,12 +28,22 @@ public:
     void refresh();
     // The entries of links with this kind word ("brokenlocal", ...).
     QList<QTreeWidgetItem *> linkItems(const QString &kind = {}) const;
+    // What the details pane shows of an entry, as plain lines.
+    QString describe(const QTreeWidgetItem *item) const;
 
     // The events of the tree, also reachable from its context menu.
     void WSOpenFile(const QString &path);
     void WSOpenAll(int id);
     void WSCheckAll(int id);
+    // Re-reads the website's project file and redraws.
+    void WSRefresh(int id);
+    // Publishes the website's files into a folder the user chooses.
+    void WSPublish(int id);
     void FileOpenLink(QTreeWidgetItem *linkItem);
+
+signals:
+    // The details of the selected entry changed, or another was selected.
+    void described(const QString &text);
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -43,6 +53,7 @@ private:
     void onDoubleClick(QTreeWidgetItem *item);
     void onSelection();
     void showResults(const LinkRecords &records);
+    void bringTabToFront();
 
     core::ui::CommandTable *m_commands = nullptr;
     bool m_refreshing = false;
