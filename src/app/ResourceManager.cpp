@@ -92,6 +92,11 @@ QWidget *ResourceManager::buildFilesTab()
     m_folders = new QFileSystemModel(page);
     m_folders->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
     m_folders->setRootPath(QString());
+    connect(m_folders, &QFileSystemModel::directoryLoaded, this, [this](const QString &path) {
+        // After the sort that follows the load.
+        if (m_shownFolder.startsWith(path))
+            QMetaObject::invokeMethod(this, &ResourceManager::showFolder, Qt::QueuedConnection);
+    });
     m_folderView = new QTreeView;
     m_folderView->setObjectName(QStringLiteral("adcFolders"));
     m_folderView->setModel(m_folders);
@@ -131,11 +136,20 @@ QWidget *ResourceManager::buildFilesTab()
 void ResourceManager::setFilesRoot(const QString &directory)
 {
     m_fileList->setRootIndex(m_files->setRootPath(directory));
-    const QModelIndex folder = m_folders->index(directory);
-    if (folder.isValid() && m_folderView->currentIndex() != folder) {
+    m_shownFolder = QDir::cleanPath(directory);
+    showFolder();
+}
+
+void ResourceManager::showFolder()
+{
+    // The folders load as they are read; the chosen one is shown once its
+    // parents are there.
+    const QModelIndex folder = m_folders->index(m_shownFolder);
+    if (!folder.isValid())
+        return;
+    if (m_folderView->currentIndex() != folder)
         m_folderView->setCurrentIndex(folder);
-        m_folderView->scrollTo(folder);
-    }
+    m_folderView->scrollTo(folder, QAbstractItemView::PositionAtCenter);
 }
 
 QString ResourceManager::filesRoot() const

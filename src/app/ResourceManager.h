@@ -46,6 +46,7 @@ private:
     QWidget *placeholder(const QString &text);
     QWidget *buildFilesTab();
     void applyFileType();
+    void showFolder();
 
     QTabWidget *m_tabMain = nullptr;
     QComboBox *m_cmbFileType = nullptr;
@@ -53,6 +54,7 @@ private:
     QFileSystemModel *m_files = nullptr;
     QTreeView *m_folderView = nullptr;
     QListView *m_fileList = nullptr;
+    QString m_shownFolder;
 };
 
 } // namespace qly::app

@@ -32,6 +32,18 @@ QString read(const QString &path, const char *key)
     return ReadProjectValue(path, Details, QString::fromLatin1(key));
 }
 
+// The tree's copy of the details in the website's project file.
+void readDetails(WebsiteList::Website &w)
+{
+    const QString &path = w.projectFile;
+    w.name = read(path, "Name");
+    w.localDirectory = read(path, "Local Directory");
+    w.host = read(path, "Host");
+    w.remoteDirectory = read(path, "Directory");
+    w.login = read(path, "Login As");
+    w.password = ProjectPassword(path);
+}
+
 void StampLastOpened(const QString &path)
 {
     WriteProjectValue(Details, QStringLiteral("Last Opened"),
@@ -104,13 +116,8 @@ bool OpenWebsite(const QString &pathIn)
     const QString name = read(path, "Name");
     const int id = list.AddWebsite(name);
     WebsiteList::Website &w = *list.website(id);
-    w.name = name;
     w.projectFile = path;
-    w.localDirectory = read(path, "Local Directory");
-    w.host = read(path, "Host");
-    w.remoteDirectory = read(path, "Directory");
-    w.login = read(path, "Login As");
-    w.password = ProjectPassword(path);
+    readDetails(w);
     list.detailsChanged();
     if (!w.localDirectory.isEmpty() && !core::DirExists(w.localDirectory))
         platform::MsgBox(QStringLiteral("The folder %1 of the website project %2 does not exist.")
@@ -157,12 +164,7 @@ void RefreshWebsite(int id)
     } else if (const QString problem = ProjectFileProblem(path); !problem.isEmpty()) {
         core::ErrorBox(problem);
     } else {
-        w->name = read(path, "Name");
-        w->localDirectory = read(path, "Local Directory");
-        w->host = read(path, "Host");
-        w->remoteDirectory = read(path, "Directory");
-        w->login = read(path, "Login As");
-        w->password = ProjectPassword(path);
+        readDetails(*w);
     }
     // Files checked before are checked again, as they now stand on disk.
     const QStringList files = w->files;
