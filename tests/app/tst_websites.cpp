@@ -13,6 +13,7 @@
 #include "documents/ui/ScintillaEdit.h"
 #include "platform/HTMLEdit.h"
 #include "websites/WebsiteList.h"
+#include "websites/Websites.h"
 #include "websites/ui/WebsiteTree.h"
 #include "support/MainWindowHost.h"
 #include "support/ScriptedPrompts.h"
@@ -120,20 +121,23 @@ void tst_Websites::filesDraggedFromTheFileViewBecomeReferences()
     rm.fileTypes()->setCurrentIndex(rm.fileTypes()->findText(QStringLiteral("All Files (*.*)")));
     rm.setFilesRoot(env.path(QStringLiteral("site/pics")));
     auto *model = static_cast<QFileSystemModel *>(rm.fileList()->model());
-    auto drop = [&](const QString &name) {
-        QModelIndex index;
-        QTRY_VERIFY((index = model->index(env.path(QStringLiteral("site/pics/")) + name)).isValid());
-        // What the view hands to the drag, dropped where the user lets go.
-        std::unique_ptr<QMimeData> mime(model->mimeData({index}));
+    // What a view hands to the drag, dropped where the user lets go.
+    auto dropMime = [&](const QMimeData *mime) {
         QWidget *target = doc->edit()->view()->viewport();
         const QPoint at = target->rect().center();
-        QDragEnterEvent enter(at, Qt::CopyAction, mime.get(), Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter(at, Qt::CopyAction, mime, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(target, &enter);
         QVERIFY(enter.isAccepted());
-        QDropEvent dropped(QPointF(at), Qt::CopyAction, mime.get(), Qt::LeftButton, Qt::NoModifier);
+        QDropEvent dropped(QPointF(at), Qt::CopyAction, mime, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(target, &dropped);
         QVERIFY(dropped.isAccepted());
         QCoreApplication::processEvents();
+    };
+    auto drop = [&](const QString &name) {
+        QModelIndex index;
+        QTRY_VERIFY((index = model->index(env.path(QStringLiteral("site/pics/")) + name)).isValid());
+        std::unique_ptr<QMimeData> mime(model->mimeData({index}));
+        dropMime(mime.get());
     };
     drop(QStringLiteral("logo.gif"));
     QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<IMG SRC=pics/logo.gif>"));
@@ -144,6 +148,23 @@ void tst_Websites::filesDraggedFromTheFileViewBecomeReferences()
     // Any other kind is a link too: nothing is asked, nothing opened.
     drop(QStringLiteral("clip.wav"));
     QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<A HREF=pics/clip.wav>clip.wav</A>"));
+
+    // A website's file dragged from the Website tab is the same.
+    const QString prj = env.write(QStringLiteral("site.prj"), "[Details]\r\nName=Site\r\n[Files]\r\n0="
+                                                                  + env.path(QStringLiteral("site/pics/logo.gif")).toUtf8() + "\r\n");
+    QVERIFY(websites::OpenWebsite(prj));
+    QCoreApplication::processEvents();
+    auto *tree = rm.tabs()->currentWidget()->findChild<websites::ui::WebsiteTree *>();
+    QAbstractItemModel *treeModel = tree->model();
+    QVERIFY(!treeModel->mimeData({treeModel->index(0, 0)}));   // a website is not dragged
+    const QModelIndex logo = treeModel->index(0, 0, treeModel->index(0, 0));
+    QCOMPARE(logo.data().toString(), QStringLiteral("logo.gif"));
+    std::unique_ptr<QMimeData> fromTree(treeModel->mimeData({logo}));
+    QVERIFY(fromTree);
+    doc->txtDoc().setText(QString());
+    dropMime(fromTree.get());
+    QCOMPARE(doc->txtDoc().Text(), QStringLiteral("<IMG SRC=pics/logo.gif>"));
+    websites::CloseAllWebsites();
     QVERIFY(prompts.shown.isEmpty());
     QCOMPARE(main->documentList().size(), 1);
     test::closeMainWindow(main);

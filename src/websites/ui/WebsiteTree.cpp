@@ -6,6 +6,7 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/Workspace.h"
+#include "documents/ui/FileDrops.h"
 #include "platform/HTMLEdit.h"
 #include "websites/LinkedFiles.h"
 #include "websites/ProjectFile.h"
@@ -18,6 +19,8 @@
 #include <QContextMenuEvent>
 #include <QFileInfo>
 #include <QMenu>
+#include <QMimeData>
+#include <QUrl>
 #include <QSet>
 #include <functional>
 #include <QStyle>
@@ -49,6 +52,8 @@ QTreeWidgetItem *entry(QTreeWidgetItem *parent, WebsiteTree::Entry kind, const Q
 {
     auto *item = new QTreeWidgetItem(parent, QStringList{text});
     item->setData(0, WebsiteTree::KindRole, int(kind));
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled
+                   | (kind == WebsiteTree::Entry::WebsiteFile ? Qt::ItemIsDragEnabled : Qt::NoItemFlags));
     return item;
 }
 
@@ -81,7 +86,29 @@ WebsiteTree::WebsiteTree(core::ui::CommandTable *commands, QWidget *parent)
     connect(&list, &WebsiteList::showResults, this, &WebsiteTree::showResults);
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem *item) { onDoubleClick(item); });
     connect(this, &QTreeWidget::itemSelectionChanged, this, &WebsiteTree::onSelection);
+    setDragEnabled(true);
+    setDragDropMode(QAbstractItemView::DragOnly);
     refresh();
+}
+
+QStringList WebsiteTree::mimeTypes() const
+{
+    return {QStringLiteral("text/uri-list")};
+}
+
+QMimeData *WebsiteTree::mimeData(const QList<QTreeWidgetItem *> &items) const
+{
+    QList<QUrl> urls;
+    for (const QTreeWidgetItem *item : items) {
+        if (kindOf(item) == Entry::WebsiteFile)
+            urls << QUrl::fromLocalFile(item->data(0, PathRole).toString());
+    }
+    if (urls.isEmpty())
+        return nullptr;
+    auto *mime = new QMimeData;
+    mime->setUrls(urls);
+    documents::ui::MarkResourceDrag(mime, QStringLiteral("tvFiles"));
+    return mime;
 }
 
 void WebsiteTree::addLinks(QTreeWidgetItem *parent, const LinkRecords &records, const QString &page)

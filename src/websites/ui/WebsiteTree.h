@@ -47,6 +47,11 @@ signals:
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
+    // A website's files are dragged as files of the editor's own: onto a
+    // document they become a link or an image tag, onto the window's
+    // background they open.
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QList<QTreeWidgetItem *> &items) const override;
 
 private:
     void addLinks(QTreeWidgetItem *parent, const LinkRecords &records, const QString &page);
