@@ -121,6 +121,7 @@ int Main(int argc, char **argv)
     const QString commandLine = commandLineOf(argc, argv);
 
     // 5. - 7.
+    window.RestoreDividers();
     window.startupSteps().run(StartupStep::BrowserMenu);
     gStylesDir = JoinPath(ProgramDirectory(), QStringLiteral("Styles"));
     QDir().mkpath(gStylesDir);

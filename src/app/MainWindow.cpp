@@ -11,6 +11,7 @@
 #include "core/Startup.h"
 #include "core/ui/CommandCatalogue.h"
 #include "core/ui/CommandTable.h"
+#include "core/ui/Divider.h"
 #include "core/ui/Placement.h"
 #include "core/ui/StatusPanels.h"
 #include "core/ui/Toolbars.h"
@@ -340,11 +341,30 @@ void frmMain::showCustomize()
         SaveToolbars();
 }
 
+namespace {
+
+// The resource manager's dividers and their keys in [Last Session].
+const std::pair<const char *, const char *> kDividers[] = {{"Website", "WebSplit"}, {"Files", "FilesSplit"}};
+
+} // namespace
+
+void frmMain::RestoreDividers()
+{
+    for (const auto &[tab, key] : kDividers) {
+        if (Divider *d = m_picDocs->divider(QString::fromLatin1(tab)))
+            d->setPositionTwips(ReadSetting(QStringLiteral("Last Session"), QString::fromLatin1(key)).toInt());
+    }
+}
+
 void frmMain::SaveMainWindowState()
 {
     const bool normal = !(isMaximized() || isMinimized() || isFullScreen());
     WriteMainGeometry(normal, QRect(toTwips(pos().x(), this), toTwips(pos().y(), this),
                                     toTwips(width(), this), toTwips(height(), this)));
+    for (const auto &[tab, key] : kDividers) {
+        if (Divider *d = m_picDocs->divider(QString::fromLatin1(tab)))
+            WriteSetting(QStringLiteral("Last Session"), QString::fromLatin1(key), QString::number(d->positionTwips()));
+    }
     SaveToolbars();
 }
 

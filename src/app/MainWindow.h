@@ -64,7 +64,11 @@ public:
     // Writes the layout to the user's "Quillery.tb"; a failure is told in
     // the status bar.
     bool SaveToolbars();
-    // Stores geometry and layout at exit.
+    // The dividers of the resource manager's "Website" and "Files" tabs from
+    // [Last Session] "WebSplit" and "FilesSplit" (twips; none or 0 leaves
+    // the default).
+    void RestoreDividers();
+    // Stores geometry, the dividers and the layout at exit.
     void SaveMainWindowState();
     // Closes every document without asking and ends the event loop.
     void UnloadAllForms() override;

@@ -81,4 +81,24 @@ void txtDoc_DropFileOnMe(Document &document, const QString &path)
         OpenDocumentFile(path);
 }
 
+QString DroppedResourceMarkup(const QString &path, const QString &link)
+{
+    // A reference with a blank would end at the blank without quotes.
+    const bool quote = link.contains(u' ') || link.contains(u'"') || link.contains(u'>');
+    const QString value = quote ? QStringLiteral("\"") + QString(link).remove(u'"') + u'"' : link;
+    const QString ext = GetFileExt(path).toLower();
+    if (ext == QLatin1String("gif") || ext == QLatin1String("jpg"))
+        return QStringLiteral("<IMG SRC=") + value + u'>';
+    return QStringLiteral("<A HREF=") + value + u'>' + FileNameOf(path) + QStringLiteral("</A>");
+}
+
+QString InsertDroppedResource(Document &document, const QString &path)
+{
+    // The reference is made from the document that takes the drop.
+    document.activate();
+    const QString text = DroppedResourceMarkup(path, markup::RelativeLink(QFileInfo(path).absoluteFilePath()));
+    insert(document, text);
+    return text;
+}
+
 } // namespace qly::documents

@@ -26,4 +26,15 @@ QString DroppedFileLink(const Document &document, const QString &path);
 // No opens it as a document, Cancel does nothing.
 void txtDoc_DropFileOnMe(Document &document, const QString &path);
 
+// A file dragged from one of the editor's own views (the file view
+// "adcFiles") onto a document: the document becomes
+// the active one and at its caret goes "<IMG SRC=link>" for a GIF or JPG
+// file, "<A HREF=link>name</A>" for any other, the link being the file's
+// reference as seen from the document (markup::RelativeLink) and quoted
+// only when it holds a blank or a quote. Nothing is asked and nothing is
+// opened. Returns the text inserted.
+QString InsertDroppedResource(Document &document, const QString &path);
+// The text that InsertDroppedResource puts in, for a link already made.
+QString DroppedResourceMarkup(const QString &path, const QString &link);
+
 } // namespace qly::documents

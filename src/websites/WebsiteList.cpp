@@ -39,17 +39,18 @@ void WebsiteList::RemoveWebsite(int id)
     emit changed();
 }
 
-void WebsiteList::AddWebsiteFile(int id, const QString &path)
+bool WebsiteList::AddWebsiteFile(int id, const QString &path)
 {
     Website *w = website(id);
-    if (!w || path.isEmpty() || w->files.size() > MaxProjectFileIndex)
-        return;
-    for (const QString &f : w->files) {
-        if (f.compare(path, Qt::CaseSensitive) == 0)
-            return;
-    }
+    if (!w || path.isEmpty())
+        return false;
+    if (w->files.contains(path, Qt::CaseSensitive))
+        return true;
+    if (w->files.size() > MaxProjectFileIndex)
+        return false;
     w->files << path;
     emit changed();
+    return true;
 }
 
 void WebsiteList::RemoveWebsiteFile(int id, int index)

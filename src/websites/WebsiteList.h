@@ -30,11 +30,17 @@ public:
     struct Website {
         QString name, projectFile, localDirectory, host, remoteDirectory, login, password;
         QStringList files;
+        // Files of the project file beyond the most the list holds: not
+        // listed, and left in the project file as they are.
+        int leftOut = 0;
     };
 
     int AddWebsite(const QString &name);
     void RemoveWebsite(int id);
-    void AddWebsiteFile(int id, const QString &path);
+    // False when the file could not join: no such website, an empty path,
+    // or the list is full (MaxProjectFileIndex + 1 files). A file listed
+    // already counts as joined.
+    bool AddWebsiteFile(int id, const QString &path);
     void RemoveWebsiteFile(int id, int index);
     int WebsiteFileCount(int id) const;
     QString WebsiteFileName(int id, int index) const;
@@ -61,6 +67,7 @@ public:
     LinkRecords linkResults(qint16 filenum) const { return m_results.value(filenum); }
     void PutFileLinkResults(const QString &path, const LinkRecords &result);
     LinkRecords fileLinkResults(const QString &path) const { return m_fileResults.value(path); }
+    bool hasFileLinkResults(const QString &path) const { return m_fileResults.contains(path); }
     // What the web servers said of addresses, when those are checked.
     void PutAddressResults(const QHash<QString, ExternalResult> &results);
     const ExternalResult *addressResult(const QString &address) const;

@@ -32,6 +32,18 @@ QString read(const QString &path, const char *key)
     return ReadProjectValue(path, Details, QString::fromLatin1(key));
 }
 
+// The tree's copy of the details in the website's project file.
+void readDetails(WebsiteList::Website &w)
+{
+    const QString &path = w.projectFile;
+    w.name = read(path, "Name");
+    w.localDirectory = read(path, "Local Directory");
+    w.host = read(path, "Host");
+    w.remoteDirectory = read(path, "Directory");
+    w.login = read(path, "Login As");
+    w.password = ProjectPassword(path);
+}
+
 void StampLastOpened(const QString &path)
 {
     WriteProjectValue(Details, QStringLiteral("Last Opened"),
@@ -110,13 +122,8 @@ bool OpenWebsite(const QString &pathIn)
     const QString name = read(path, "Name");
     const int id = list.AddWebsite(name);
     WebsiteList::Website &w = *list.website(id);
-    w.name = name;
     w.projectFile = path;
-    w.localDirectory = read(path, "Local Directory");
-    w.host = read(path, "Host");
-    w.remoteDirectory = read(path, "Directory");
-    w.login = read(path, "Login As");
-    w.password = ProjectPassword(path);
+    readDetails(w);
     list.detailsChanged();
     if (!w.localDirectory.isEmpty() && !core::DirExists(w.localDirectory))
         platform::MsgBox(QStringLiteral("The folder %1 of the website project %2 does not exist.")
@@ -125,16 +132,53 @@ bool OpenWebsite(const QString &pathIn)
 
     const bool openAll = core::ReadSettingFlag(QStringLiteral("General"), QStringLiteral("Open All Proj Files"));
     const QStringList files = ReadProjectFiles(path);
+    int leftOut = 0;
     for (const QString &file : files) {
+        if (!list.AddWebsiteFile(id, file)) {
+            ++leftOut;
+            continue;
+        }
         if (openAll)
             documents::OpenDocumentFile(file);
-        list.AddWebsiteFile(id, file);
+    }
+    if (leftOut > 0) {
+        list.website(id)->leftOut = leftOut;
+        list.detailsChanged();
+        platform::MsgBox(QStringLiteral("The website \"%1\" lists %2 files, but a website holds %3 at most. "
+                                        "The last %4 are not shown in the Website tab and are not opened; "
+                                        "they stay in the project file %5 as they are.")
+                             .arg(name).arg(files.size()).arg(MaxProjectFileIndex + 1).arg(leftOut).arg(path),
+                         platform::Buttons::Ok, platform::Icon::Exclamation);
     }
     if (files.isEmpty())
         return false;
     StampLastOpened(path);
     documents::AddRecentFile(path);
     return true;
+}
+
+void RefreshWebsite(int id)
+{
+    WebsiteList &list = WebsiteList::instance();
+    WebsiteList::Website *w = list.website(id);
+    if (!w)
+        return;
+    Wait wait;
+    const QString path = w->projectFile;
+    if (!core::FileExists(path)) {
+        core::ShowStatus(QStringLiteral("The project file ") + path + QStringLiteral(" could not be found"));
+    } else if (const QString problem = ProjectFileProblem(path); !problem.isEmpty()) {
+        core::ErrorBox(problem);
+    } else {
+        readDetails(*w);
+    }
+    // Files checked before are checked again, as they now stand on disk.
+    const QStringList files = w->files;
+    for (const QString &file : files) {
+        if (list.hasFileLinkResults(file))
+            ScanNodeLinks(file);
+    }
+    list.detailsChanged();
 }
 
 void CloseWebsite(int id)
@@ -156,9 +200,9 @@ void CloseAllWebsites()
         CloseWebsite(list.WebsiteIdAt(0));
 }
 
-void AddFiletoList(const QString &path, int id)
+bool AddFiletoList(const QString &path, int id)
 {
-    WebsiteList::instance().AddWebsiteFile(id, path);
+    return WebsiteList::instance().AddWebsiteFile(id, path);
 }
 
 void WebsiteAddFiles(int id)
@@ -174,8 +218,14 @@ void WebsiteAddFiles(int id)
     request.defaultSuffix = core::ReadSetting(QStringLiteral("Editing"), QStringLiteral("Default Document Extension"));
     request.multiple = true;
     const platform::FileAnswer answer = platform::prompts().openFile(request);
+    int refused = 0;
     for (const QString &file : answer.files)
-        AddFiletoList(file, id);
+        refused += AddFiletoList(file, id) ? 0 : 1;
+    if (refused > 0)
+        platform::MsgBox(QStringLiteral("The website \"%1\" holds %2 files, the most a website can hold. "
+                                        "%3 of the chosen files were not added.")
+                             .arg(w->name).arg(MaxProjectFileIndex + 1).arg(refused),
+                         platform::Buttons::Ok, platform::Icon::Exclamation);
 }
 
 void FileAddFiles()

@@ -22,7 +22,9 @@ WebsiteHooks &websiteHooks();
 // [Details] "Last Opened" is stamped and it goes into the recent files,
 // when it has files. An empty path asks with the Open Website dialog. A
 // path that does not exist, or a cancel, stops silently; a damaged project
-// file is named in a message and left as it is. True when it has files.
+// file is named in a message and left as it is. A project file that lists
+// more files than a website holds has the rest left out of the tree, with
+// a message; they stay in the file. True when it has files.
 bool OpenWebsite(const QString &path);
 
 // The tree's upload event: hands the website to ShowWebsiteUpload.
@@ -34,9 +36,16 @@ void CloseWebsite(int id);
 // Every open website, first to last: the program's exit.
 void CloseAllWebsites();
 
-void AddFiletoList(const QString &path, int id);
+// Re-reads the website's details from its project file and checks again
+// the files whose links were checked; the tree redraws. The file list is
+// the tree's own while the website is open and stays as it is.
+void RefreshWebsite(int id);
+
+// False when the website's list is full (see WebsiteList::AddWebsiteFile).
+bool AddFiletoList(const QString &path, int id);
 // Add Files: a file dialog in the website's directory; every chosen file
-// joins the website.
+// joins the website. Files beyond the most a website holds are named in a
+// message.
 void WebsiteAddFiles(int id);
 // The menu's Add Files: the selected website, or a message when there is none.
 void FileAddFiles();

@@ -79,8 +79,11 @@ DocumentWindow::DocumentWindow(QWidget *parent)
     connect(m_edit, &ScintillaEdit::dirtyChanged, this, &QWidget::setWindowModified);
     connect(m_tabDoc, &QTabWidget::currentChanged, this, &DocumentWindow::onTabChanged);
     setFocusProxy(m_edit->view());
-    // Files dropped from the desktop are put into the text by their kind.
-    AcceptFileDrops(m_edit->view()->viewport(), [this](const QString &path) { txtDoc_DropFileOnMe(*this, path); });
+    // Files dropped from the desktop are put into the text by their kind;
+    // files from the editor's file view become a link or an image tag.
+    AcceptFileDrops(
+        m_edit->view()->viewport(), [this](const QString &path) { txtDoc_DropFileOnMe(*this, path); },
+        [this](const QString &path) { InsertDroppedResource(*this, path); });
 }
 
 DocumentWindow::~DocumentWindow()

@@ -10,6 +10,8 @@ namespace qly::documents::ui {
 
 namespace {
 
+const QString ResourceFormat = QStringLiteral("application/x-quillery-resource");
+
 QStringList localFiles(const QMimeData *mime)
 {
     QStringList files;
@@ -25,8 +27,9 @@ QStringList localFiles(const QMimeData *mime)
 class FileDropFilter final : public QObject
 {
 public:
-    FileDropFilter(QObject *parent, std::function<void(const QString &)> onFile)
-        : QObject(parent), m_onFile(std::move(onFile))
+    FileDropFilter(QObject *parent, std::function<void(const QString &)> onFile,
+                   std::function<void(const QString &)> onResource)
+        : QObject(parent), m_onFile(std::move(onFile)), m_onResource(std::move(onResource))
     {
     }
 
@@ -48,13 +51,18 @@ protected:
             if (files.isEmpty())
                 return false;
             drop->acceptProposedAction();
+            const bool resource = m_onResource && drop->mimeData()->hasFormat(ResourceFormat);
             // The work runs after the drop has ended: it may ask questions,
             // and the source of the drag should not wait for them.
             QMetaObject::invokeMethod(
                 this,
-                [this, files] {
-                    for (const QString &file : files)
-                        m_onFile(file);
+                [this, files, resource] {
+                    for (const QString &file : files) {
+                        if (resource)
+                            m_onResource(file);
+                        else
+                            m_onFile(file);
+                    }
                 },
                 Qt::QueuedConnection);
             return true;
@@ -66,14 +74,22 @@ protected:
 
 private:
     std::function<void(const QString &)> m_onFile;
+    std::function<void(const QString &)> m_onResource;
 };
 
 } // namespace
 
-void AcceptFileDrops(QWidget *target, std::function<void(const QString &path)> onFile)
+void MarkResourceDrag(QMimeData *mime, const QString &source)
+{
+    if (mime)
+        mime->setData(ResourceFormat, source.toUtf8());
+}
+
+void AcceptFileDrops(QWidget *target, std::function<void(const QString &path)> onFile,
+                     std::function<void(const QString &path)> onResource)
 {
     target->setAcceptDrops(true);
-    target->installEventFilter(new FileDropFilter(target, std::move(onFile)));
+    target->installEventFilter(new FileDropFilter(target, std::move(onFile), std::move(onResource)));
 }
 
 } // namespace qly::documents::ui

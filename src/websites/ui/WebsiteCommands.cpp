@@ -7,7 +7,7 @@
 #include "websites/Websites.h"
 #include "websites/ui/BookmarksView.h"
 #include "websites/ui/Keyring.h"
-#include "websites/ui/WebsiteTree.h"
+#include "websites/ui/WebsitePane.h"
 #include "websites/ui/frmOpenProj.h"
 #include "websites/ui/frmProjectManager.h"
 
@@ -49,7 +49,7 @@ WebsiteViews registerWebsiteCommands(core::ui::Shell &shell)
         window->installEventFilter(new CloseWatch(window));
 
     WebsiteViews views;
-    views.website = new WebsiteTree(&t);
+    views.website = new WebsitePane(&t);
     views.bookmarks = new BookmarksView;
     return views;
 }

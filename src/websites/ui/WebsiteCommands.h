@@ -12,7 +12,7 @@ class WebsiteTree;
 
 // The resource manager's tabs that the websites fill.
 struct WebsiteViews {
-    QWidget *website = nullptr;       // "Website": the WebsiteTree
+    QWidget *website = nullptr;       // "Website": the WebsitePane with the WebsiteTree
     QWidget *bookmarks = nullptr;     // "Bookmarks"
 };
 

@@ -6,15 +6,21 @@
 #include "documents/Document.h"
 #include "documents/DocumentList.h"
 #include "documents/Workspace.h"
+#include "documents/ui/FileDrops.h"
 #include "platform/HTMLEdit.h"
 #include "websites/LinkedFiles.h"
+#include "websites/ProjectFile.h"
 #include "websites/WebsiteList.h"
+#include "websites/WebsitePublish.h"
 #include "websites/Websites.h"
 #include "websites/ui/frmProjectManager.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QFileInfo>
 #include <QMenu>
+#include <QMimeData>
+#include <QUrl>
 #include <QSet>
 #include <functional>
 #include <QStyle>
@@ -46,7 +52,14 @@ QTreeWidgetItem *entry(QTreeWidgetItem *parent, WebsiteTree::Entry kind, const Q
 {
     auto *item = new QTreeWidgetItem(parent, QStringList{text});
     item->setData(0, WebsiteTree::KindRole, int(kind));
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled
+                   | (kind == WebsiteTree::Entry::WebsiteFile ? Qt::ItemIsDragEnabled : Qt::NoItemFlags));
     return item;
+}
+
+QString counted(int n, const char *one, const char *many)
+{
+    return QString::number(n) + u' ' + QString::fromLatin1(n == 1 ? one : many);
 }
 
 WebsiteTree::Entry kindOf(const QTreeWidgetItem *item)
@@ -59,7 +72,7 @@ WebsiteTree::Entry kindOf(const QTreeWidgetItem *item)
 WebsiteTree::WebsiteTree(core::ui::CommandTable *commands, QWidget *parent)
     : QTreeWidget(parent), m_commands(commands)
 {
-    setObjectName(QStringLiteral("WebsiteMan"));
+    setObjectName(QStringLiteral("tvFiles"));
     setHeaderHidden(true);
     setColumnCount(1);
     WebsiteList &list = WebsiteList::instance();
@@ -73,7 +86,29 @@ WebsiteTree::WebsiteTree(core::ui::CommandTable *commands, QWidget *parent)
     connect(&list, &WebsiteList::showResults, this, &WebsiteTree::showResults);
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem *item) { onDoubleClick(item); });
     connect(this, &QTreeWidget::itemSelectionChanged, this, &WebsiteTree::onSelection);
+    setDragEnabled(true);
+    setDragDropMode(QAbstractItemView::DragOnly);
     refresh();
+}
+
+QStringList WebsiteTree::mimeTypes() const
+{
+    return {QStringLiteral("text/uri-list")};
+}
+
+QMimeData *WebsiteTree::mimeData(const QList<QTreeWidgetItem *> &items) const
+{
+    QList<QUrl> urls;
+    for (const QTreeWidgetItem *item : items) {
+        if (kindOf(item) == Entry::WebsiteFile)
+            urls << QUrl::fromLocalFile(item->data(0, PathRole).toString());
+    }
+    if (urls.isEmpty())
+        return nullptr;
+    auto *mime = new QMimeData;
+    mime->setUrls(urls);
+    documents::ui::MarkResourceDrag(mime, QStringLiteral("tvFiles"));
+    return mime;
 }
 
 void WebsiteTree::addLinks(QTreeWidgetItem *parent, const LinkRecords &records, const QString &page)
@@ -145,7 +180,13 @@ void WebsiteTree::refresh()
             file->setData(0, IndexRole, f);
             file->setData(0, PathRole, w->files.at(f));
             file->setToolTip(0, w->files.at(f));
-            file->setIcon(0, style()->standardIcon(QStyle::SP_FileIcon));
+            if (QFileInfo::exists(w->files.at(f))) {
+                file->setIcon(0, style()->standardIcon(QStyle::SP_FileIcon));
+            } else {
+                file->setIcon(0, style()->standardIcon(QStyle::SP_MessageBoxWarning));
+                file->setForeground(0, QColor(0xb0, 0x20, 0x20));
+                file->setToolTip(0, w->files.at(f) + tr(" (missing)"));
+            }
             addLinks(file, list.fileLinkResults(w->files.at(f)), w->files.at(f));
         }
     }
@@ -162,14 +203,8 @@ void WebsiteTree::refresh()
         }
     }
     // A website that was just opened brings its tab to the front.
-    if (list.WebsiteCount() > m_shownWebsites) {
-        for (QWidget *w = parentWidget(); w; w = w->parentWidget()) {
-            if (auto *tabs = qobject_cast<QTabWidget *>(w)) {
-                tabs->setCurrentWidget(this);
-                break;
-            }
-        }
-    }
+    if (list.WebsiteCount() > m_shownWebsites)
+        bringTabToFront();
     m_shownWebsites = list.WebsiteCount();
     for (QTreeWidgetItemIterator it(this); *it; ++it) {
         const QString key = keyOf(*it);
@@ -179,6 +214,24 @@ void WebsiteTree::refresh()
             (*it)->setSelected(true);
     }
     m_refreshing = false;
+    const QList<QTreeWidgetItem *> chosen = selectedItems();
+    emit described(describe(chosen.isEmpty() ? nullptr : chosen.first()));
+}
+
+void WebsiteTree::bringTabToFront()
+{
+    QTabWidget *tabs = nullptr;
+    for (QWidget *w = parentWidget(); w && !tabs; w = w->parentWidget())
+        tabs = qobject_cast<QTabWidget *>(w);
+    if (!tabs)
+        return;
+    // The tab's page is this tree or the pane that holds it.
+    for (QWidget *page = this; page; page = page->parentWidget()) {
+        if (tabs->indexOf(page) >= 0) {
+            tabs->setCurrentWidget(page);
+            return;
+        }
+    }
 }
 
 QList<QTreeWidgetItem *> WebsiteTree::linkItems(const QString &kind) const
@@ -206,6 +259,7 @@ void WebsiteTree::showResults(const LinkRecords &)
 void WebsiteTree::onSelection()
 {
     const QList<QTreeWidgetItem *> items = selectedItems();
+    emit described(describe(items.isEmpty() ? nullptr : items.first()));
     if (items.isEmpty())
         return;
     QTreeWidgetItem *item = items.first();
@@ -239,6 +293,73 @@ void WebsiteTree::WSCheckAll(int id)
             for (int i = 0; i < site->childCount(); ++i)
                 site->child(i)->setExpanded(true);
     }
+}
+
+void WebsiteTree::WSRefresh(int id)
+{
+    RefreshWebsite(id);
+    refresh();
+}
+
+void WebsiteTree::WSPublish(int id)
+{
+    ShowWebsitePublish(id);
+}
+
+QString WebsiteTree::describe(const QTreeWidgetItem *item) const
+{
+    WebsiteList &list = WebsiteList::instance();
+    QStringList lines;
+    if (!item) {
+        lines << counted(list.WebsiteCount(), "website", "websites") + QStringLiteral(" open.");
+        if (list.WebsiteCount() == 0)
+            lines << tr("New Website or Open Website (right-click here, or the File menu's Websites) "
+                        "lists a website's files here.");
+        return lines.join(u'\n');
+    }
+    const QString path = item->data(0, PathRole).toString();
+    switch (kindOf(item)) {
+    case Entry::Website: {
+        const WebsiteList::Website *w = list.website(item->data(0, IdRole).toInt());
+        if (!w)
+            break;
+        lines << w->name << tr("Project file: %1").arg(w->projectFile);
+        if (!w->localDirectory.isEmpty())
+            lines << tr("Folder: %1").arg(w->localDirectory);
+        if (!w->host.isEmpty())
+            lines << tr("FTP server: %1%2").arg(w->host, w->remoteDirectory.isEmpty() ? QString() : u' ' + w->remoteDirectory);
+        int missing = 0;
+        for (const QString &f : w->files)
+            missing += QFileInfo::exists(f) ? 0 : 1;
+        lines << counted(int(w->files.size()), "file", "files")
+                     + (missing ? QStringLiteral(", %1 missing on disk").arg(missing) : QString());
+        if (w->leftOut > 0)
+            lines << tr("%1 more files of the project file are not listed: a website holds %2 at most. "
+                        "They stay in the project file.").arg(w->leftOut).arg(MaxProjectFileIndex + 1);
+        break;
+    }
+    case Entry::WebsiteFile:
+    case Entry::Document: {
+        lines << path;
+        if (!path.isEmpty() && kindOf(item) == Entry::WebsiteFile && !QFileInfo::exists(path))
+            lines << tr("The file is missing on disk.");
+        int broken = 0;
+        for (int i = 0; i < item->childCount(); ++i)
+            broken += item->child(i)->data(0, LinkRole).toString().startsWith(QLatin1String("broken")) ? 1 : 0;
+        if (item->childCount() == 0)
+            lines << tr("Links not checked, or none found.");
+        else
+            lines << counted(item->childCount(), "link", "links") + QStringLiteral(", %1 broken").arg(broken);
+        break;
+    }
+    case Entry::Documents:
+        lines << counted(item->childCount(), "document", "documents") + QStringLiteral(" open.");
+        break;
+    case Entry::Link:
+        lines << item->text(0) << item->toolTip(0);
+        break;
+    }
+    return lines.join(u'\n');
 }
 
 void WebsiteTree::FileOpenLink(QTreeWidgetItem *linkItem)
@@ -301,6 +422,8 @@ void WebsiteTree::contextMenuEvent(QContextMenuEvent *event)
             menu.addAction(tr("Open All Files"), this, [this, id] { WSOpenAll(id); });
             menu.addAction(tr("Check All Links"), this, [this, id] { WSCheckAll(id); });
             menu.addAction(tr("Properties..."), this, [this, id] { ShowWebsiteProperties(id, this); });
+            menu.addAction(tr("Refresh"), this, [this, id] { WSRefresh(id); });
+            menu.addAction(tr("Publish Website..."), this, [this, id] { WSPublish(id); });
             command("mnuUploadProject");
             menu.addAction(tr("Close Website"), this, [id] { CloseWebsite(id); });
         } else if (kind == Entry::WebsiteFile) {

@@ -28,21 +28,37 @@ public:
     void refresh();
     // The entries of links with this kind word ("brokenlocal", ...).
     QList<QTreeWidgetItem *> linkItems(const QString &kind = {}) const;
+    // What the details pane shows of an entry, as plain lines.
+    QString describe(const QTreeWidgetItem *item) const;
 
     // The events of the tree, also reachable from its context menu.
     void WSOpenFile(const QString &path);
     void WSOpenAll(int id);
     void WSCheckAll(int id);
+    // Re-reads the website's project file and redraws.
+    void WSRefresh(int id);
+    // Publishes the website's files into a folder the user chooses.
+    void WSPublish(int id);
     void FileOpenLink(QTreeWidgetItem *linkItem);
+
+signals:
+    // The details of the selected entry changed, or another was selected.
+    void described(const QString &text);
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
+    // A website's files are dragged as files of the editor's own: onto a
+    // document they become a link or an image tag, onto the window's
+    // background they open.
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QList<QTreeWidgetItem *> &items) const override;
 
 private:
     void addLinks(QTreeWidgetItem *parent, const LinkRecords &records, const QString &page);
     void onDoubleClick(QTreeWidgetItem *item);
     void onSelection();
     void showResults(const LinkRecords &records);
+    void bringTabToFront();
 
     core::ui::CommandTable *m_commands = nullptr;
     bool m_refreshing = false;
