@@ -147,6 +147,12 @@ platform::IoResult streamInto(QsciScintilla *sci, QFile &file, core::TextEncodin
     return {};
 }
 
+// The notices asked for at all times.
+constexpr int kBeforeChange = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE;
+// A line this long costs more to lay out again than the count of the
+// characters before a change that QScintilla makes for a notice of it.
+constexpr long kLongLine = 64 * 1024;
+
 int utf8Length(unsigned char lead)
 {
     return lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
@@ -170,9 +176,21 @@ ScintillaEdit::ScintillaEdit(QWidget *parent)
     // is made. Only those two notices are asked for: QScintilla answers a
     // notice of inserted or deleted text by counting the characters from
     // the start of the page, which on a large page costs a second a key.
-    send(Base::SCI_SETMODEVENTMASK, Base::SC_MOD_BEFOREINSERT | Base::SC_MOD_BEFOREDELETE);
+    send(Base::SCI_SETMODEVENTMASK, kBeforeChange);
     connect(m_sci, &QsciScintillaBase::SCN_MODIFIED, this,
             [this](int position, int type, const char *, int length, int, int, int, int, int, int) {
+                if (type & (Base::SC_MOD_INSERTTEXT | Base::SC_MOD_DELETETEXT)) {
+                    send(Base::SCI_SETMODEVENTMASK, kBeforeChange);
+                    if (m_lexer)
+                        m_lexer->styleTo(screenEnd());
+                    return;
+                }
+                // Scintilla lays out a changed line once to place the caret
+                // and again on the paint if the colouring changed it in
+                // between. A long line is coloured as soon as the change is
+                // in, so that it is laid out once.
+                if (m_lexer && longLineAt(position))
+                    send(Base::SCI_SETMODEVENTMASK, kBeforeChange | Base::SC_MOD_INSERTTEXT | Base::SC_MOD_DELETETEXT);
                 // The text to come is not handed over: it is counted once it
                 // is in, at the next notice or question.
                 index();
@@ -561,9 +579,20 @@ void ScintillaEdit::ColorHTML()
         return;
     applyColors();
     // What is on screen is coloured now, the rest while the program is idle.
-    const long lastVisible = send(Base::SCI_GETFIRSTVISIBLELINE) + send(Base::SCI_LINESONSCREEN) + 1;
-    m_lexer->styleTo(send(Base::SCI_GETLINEENDPOSITION, send(Base::SCI_DOCLINEFROMVISIBLE, lastVisible)));
+    m_lexer->styleTo(screenEnd());
     startColouringAhead(0);
+}
+
+bool ScintillaEdit::longLineAt(long position) const
+{
+    const long line = send(Base::SCI_LINEFROMPOSITION, position);
+    return send(Base::SCI_POSITIONFROMLINE, line + 1) - send(Base::SCI_POSITIONFROMLINE, line) > kLongLine;
+}
+
+long ScintillaEdit::screenEnd() const
+{
+    const long lastVisible = send(Base::SCI_GETFIRSTVISIBLELINE) + send(Base::SCI_LINESONSCREEN) + 1;
+    return send(Base::SCI_GETLINEENDPOSITION, send(Base::SCI_DOCLINEFROMVISIBLE, lastVisible));
 }
 
 void ScintillaEdit::InitColor(const platform::ColorTable &colors)

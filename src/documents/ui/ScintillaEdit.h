@@ -88,6 +88,9 @@ private:
     int toChar(long bytePos) const;
     long toByte(int charPos) const;
     void applyColors();
+    // Where the last line on screen ends.
+    long screenEnd() const;
+    bool longLineAt(long position) const;
     void colourAhead();
     void startColouringAhead(int delay);
     int findFolded(const QString &text, int start, int end, int options);
