@@ -189,7 +189,7 @@ ScintillaEdit::ScintillaEdit(QWidget *parent)
                 // and again on the paint if the colouring changed it in
                 // between. A long line is coloured as soon as the change is
                 // in, so that it is laid out once.
-                if (m_lexer && longLineAt(position))
+                if (m_lexer && !m_loading && longLineAt(position))
                     send(Base::SCI_SETMODEVENTMASK, kBeforeChange | Base::SC_MOD_INSERTTEXT | Base::SC_MOD_DELETETEXT);
                 // The text to come is not handed over: it is counted once it
                 // is in, at the next notice or question.
@@ -455,12 +455,14 @@ platform::IoResult ScintillaEdit::LoadFile(int, const QString &path)
     // read again as Windows-1252.
     FileLines lines;
     m_encoding = core::TextEncoding::Utf8;
+    m_loading = true;
     platform::IoResult result = streamInto(m_sci, file, m_encoding, lines);
     if (result.ok() && m_encoding == core::TextEncoding::Windows1252) {
         file.seek(0);
         lines = {};
         result = streamInto(m_sci, file, m_encoding, lines);
     }
+    m_loading = false;
     if (!result.ok()) {
         send(Base::SCI_CLEARALL);
         send(Base::SCI_SETUNDOCOLLECTION, 1);

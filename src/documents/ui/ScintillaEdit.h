@@ -106,6 +106,7 @@ private:
     long m_caretLine = 0;
     core::TextEncoding m_encoding = core::TextEncoding::Utf8;
     bool m_forcedDirty = false;
+    bool m_loading = false;   // a file is going in: nothing is coloured yet
     int m_colorMode = platform::ColorOff;
     platform::ColorTable m_colors;
     QString m_fontName;
