@@ -176,6 +176,7 @@ ScintillaEdit::ScintillaEdit(QWidget *parent)
     // is made. Only those two notices are asked for: QScintilla answers a
     // notice of inserted or deleted text by counting the characters from
     // the start of the page, which on a large page costs a second a key.
+    // (A change on a long line asks for its one notice after the change.)
     send(Base::SCI_SETMODEVENTMASK, kBeforeChange);
     connect(m_sci, &QsciScintillaBase::SCN_MODIFIED, this,
             [this](int position, int type, const char *, int length, int, int, int, int, int, int) {
