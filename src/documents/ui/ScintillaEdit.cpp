@@ -2,6 +2,7 @@
 
 #include "core/Feedback.h"
 #include "core/FileIo.h"
+#include "core/TextCodec.h"
 #include "core/Globals.h"
 #include "documents/TextSearch.h"
 #include "documents/ui/EditColors.h"
@@ -15,9 +16,13 @@
 
 #include <QAccessibleWidget>
 #include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QPrintDialog>
 #include <QTimer>
+
+#include <cstring>
 
 namespace qly::documents::ui {
 
@@ -51,6 +56,103 @@ void keepAccessibilityCheap()
     }
 }
 
+// A file goes into the control in pieces of this many bytes.
+constexpr qint64 kLoadPiece = 256 * 1024;
+
+// The length of `bytes` up to the start of a character that the bytes do
+// not finish (all of it when they end on a whole character).
+qsizetype completeUtf8Prefix(QByteArrayView bytes)
+{
+    const qsizetype n = bytes.size();
+    for (qsizetype k = n - 1; k >= 0 && k >= n - 4; --k) {
+        const auto c = static_cast<unsigned char>(bytes[k]);
+        if ((c & 0xC0) == 0x80)
+            continue;
+        const int need = c >= 0xF0 ? 4 : c >= 0xE0 ? 3 : c >= 0xC0 ? 2 : 1;
+        return n - k >= need ? n : k;
+    }
+    return n;
+}
+
+// The line ends of a file as it streams by: the first LF, the first CR
+// and the byte after that CR.
+struct FileLines {
+    qint64 seen = 0;
+    qint64 lf = -1;
+    qint64 cr = -1;
+    int afterCr = -1;   // -1 while unknown or at the end
+
+    void see(const QByteArray &piece)
+    {
+        if (cr >= 0 && cr == seen - 1 && !piece.isEmpty())
+            afterCr = static_cast<unsigned char>(piece[0]);
+        if (lf < 0) {
+            const qsizetype at = piece.indexOf('\n');
+            if (at >= 0)
+                lf = seen + at;
+        }
+        if (cr < 0) {
+            const qsizetype at = piece.indexOf('\r');
+            if (at >= 0) {
+                cr = seen + at;
+                if (at + 1 < piece.size())
+                    afterCr = static_cast<unsigned char>(piece[at + 1]);
+            }
+        }
+        seen += piece.size();
+    }
+
+    // New text keeps the file's own line ends.
+    int eolMode() const
+    {
+        if (lf >= 0 && (cr < 0 || cr > lf))
+            return QsciScintillaBase::SC_EOL_LF;
+        if (cr >= 0 && afterCr != '\n')
+            return QsciScintillaBase::SC_EOL_CR;
+        return QsciScintillaBase::SC_EOL_CRLF;
+    }
+};
+
+platform::IoResult streamInto(QsciScintilla *sci, QFile &file, core::TextEncoding &encoding, FileLines &lines)
+{
+    // Pieces end on whole characters: a valid page is valid in each piece.
+    const bool asUtf8 = encoding == core::TextEncoding::Utf8;
+    sci->SendScintilla(Base::SCI_CLEARALL);
+    sci->SendScintilla(Base::SCI_ALLOCATE, uintptr_t(file.size() + 1));
+    QByteArray buffer(kLoadPiece + 4, Qt::Uninitialized);
+    qsizetype carried = 0;   // the start of a character that the next piece ends
+    for (;;) {
+        const qint64 got = file.read(buffer.data() + carried, kLoadPiece);
+        if (got < 0 || file.error() != QFileDevice::NoError)
+            return {core::ErrIo, file.errorString()};
+        const qsizetype size = carried + qsizetype(got);
+        const bool last = got == 0 || file.atEnd();
+        if (size == 0)
+            break;
+        const qsizetype whole = last ? size : completeUtf8Prefix(QByteArrayView(buffer.constData(), size));
+        QByteArray piece = QByteArray::fromRawData(buffer.constData(), whole);
+        if (asUtf8 && !core::isValidUtf8(piece)) {
+            encoding = core::TextEncoding::Windows1252;
+            return {};
+        }
+        if (!asUtf8)
+            piece = core::windows1252ToUtf8(piece);
+        lines.see(piece);
+        sci->SendScintilla(Base::SCI_APPENDTEXT, uintptr_t(piece.size()), piece.constData());
+        if (last)
+            break;
+        carried = size - whole;
+        std::memmove(buffer.data(), buffer.constData() + whole, size_t(carried));
+    }
+    return {};
+}
+
+// The notices asked for at all times.
+constexpr int kBeforeChange = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE;
+// A line this long costs more to lay out again than the count of the
+// characters before a change that QScintilla makes for a notice of it.
+constexpr long kLongLine = 64 * 1024;
+
 int utf8Length(unsigned char lead)
 {
     return lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
@@ -74,9 +176,22 @@ ScintillaEdit::ScintillaEdit(QWidget *parent)
     // is made. Only those two notices are asked for: QScintilla answers a
     // notice of inserted or deleted text by counting the characters from
     // the start of the page, which on a large page costs a second a key.
-    send(Base::SCI_SETMODEVENTMASK, Base::SC_MOD_BEFOREINSERT | Base::SC_MOD_BEFOREDELETE);
+    // (A change on a long line asks for its one notice after the change.)
+    send(Base::SCI_SETMODEVENTMASK, kBeforeChange);
     connect(m_sci, &QsciScintillaBase::SCN_MODIFIED, this,
             [this](int position, int type, const char *, int length, int, int, int, int, int, int) {
+                if (type & (Base::SC_MOD_INSERTTEXT | Base::SC_MOD_DELETETEXT)) {
+                    send(Base::SCI_SETMODEVENTMASK, kBeforeChange);
+                    if (m_lexer)
+                        m_lexer->styleTo(screenEnd());
+                    return;
+                }
+                // Scintilla lays out a changed line once to place the caret
+                // and again on the paint if the colouring changed it in
+                // between. A long line is coloured as soon as the change is
+                // in, so that it is laid out once.
+                if (m_lexer && !m_loading && longLineAt(position))
+                    send(Base::SCI_SETMODEVENTMASK, kBeforeChange | Base::SC_MOD_INSERTTEXT | Base::SC_MOD_DELETETEXT);
                 // The text to come is not handed over: it is counted once it
                 // is in, at the next notice or question.
                 index();
@@ -322,23 +437,12 @@ void ScintillaEdit::setDirty(bool dirty)
 
 platform::IoResult ScintillaEdit::LoadFile(int, const QString &path)
 {
-    QByteArray data;
-    const platform::IoResult result = core::readWholeFile(path, data);
-    if (!result.ok())
-        return result;
-    m_encoding = core::detectEncoding(data);
-    if (m_encoding == core::TextEncoding::Windows1252)
-        data = core::windows1252ToUtf8(data);
-
-    // New text keeps the file's own line ends.
-    int eol = QsciScintillaBase::SC_EOL_CRLF;
-    const qsizetype nl = data.indexOf('\n');
-    const qsizetype cr = data.indexOf('\r');
-    if (nl >= 0 && (cr < 0 || cr > nl))
-        eol = QsciScintillaBase::SC_EOL_LF;
-    else if (cr >= 0 && (cr + 1 >= data.size() || data.at(cr + 1) != '\n'))
-        eol = QsciScintillaBase::SC_EOL_CR;
-    send(Base::SCI_SETEOLMODE, eol);
+    QFile file(path);
+    if (!QFileInfo(path).isFile())
+        return {QFileInfo::exists(path) ? core::ErrFileAccess : core::ErrFileNotFound,
+                QStringLiteral("File not found.")};
+    if (!file.open(QIODevice::ReadOnly))
+        return {core::ErrFileAccess, file.errorString()};
 
     // Text put in with wrapping on is wrapped whole at once, which for a
     // large page takes seconds; wrapped afterwards, only the lines shown
@@ -347,9 +451,27 @@ platform::IoResult ScintillaEdit::LoadFile(int, const QString &path)
     if (wrap != Base::SC_WRAP_NONE)
         send(Base::SCI_SETWRAPMODE, Base::SC_WRAP_NONE);
     send(Base::SCI_SETUNDOCOLLECTION, 0);
-    send(Base::SCI_CLEARALL);
-    send(Base::SCI_ALLOCATE, data.size() + 1);
-    m_sci->SendScintilla(Base::SCI_ADDTEXT, uintptr_t(data.size()), data.constData());
+    // The file goes in a piece at a time, so that no second copy of a large
+    // page is held beside the control's own. A file that is not UTF-8 is
+    // read again as Windows-1252.
+    FileLines lines;
+    m_encoding = core::TextEncoding::Utf8;
+    m_loading = true;
+    platform::IoResult result = streamInto(m_sci, file, m_encoding, lines);
+    if (result.ok() && m_encoding == core::TextEncoding::Windows1252) {
+        file.seek(0);
+        lines = {};
+        result = streamInto(m_sci, file, m_encoding, lines);
+    }
+    m_loading = false;
+    if (!result.ok()) {
+        send(Base::SCI_CLEARALL);
+        send(Base::SCI_SETUNDOCOLLECTION, 1);
+        if (wrap != Base::SC_WRAP_NONE)
+            send(Base::SCI_SETWRAPMODE, wrap);
+        return result;
+    }
+    send(Base::SCI_SETEOLMODE, lines.eolMode());
     if (wrap != Base::SC_WRAP_NONE)
         send(Base::SCI_SETWRAPMODE, wrap);
     send(Base::SCI_SETUNDOCOLLECTION, 1);
@@ -460,9 +582,20 @@ void ScintillaEdit::ColorHTML()
         return;
     applyColors();
     // What is on screen is coloured now, the rest while the program is idle.
-    const long lastVisible = send(Base::SCI_GETFIRSTVISIBLELINE) + send(Base::SCI_LINESONSCREEN) + 1;
-    m_lexer->styleTo(send(Base::SCI_GETLINEENDPOSITION, send(Base::SCI_DOCLINEFROMVISIBLE, lastVisible)));
+    m_lexer->styleTo(screenEnd());
     startColouringAhead(0);
+}
+
+bool ScintillaEdit::longLineAt(long position) const
+{
+    const long line = send(Base::SCI_LINEFROMPOSITION, position);
+    return send(Base::SCI_POSITIONFROMLINE, line + 1) - send(Base::SCI_POSITIONFROMLINE, line) > kLongLine;
+}
+
+long ScintillaEdit::screenEnd() const
+{
+    const long lastVisible = send(Base::SCI_GETFIRSTVISIBLELINE) + send(Base::SCI_LINESONSCREEN) + 1;
+    return send(Base::SCI_GETLINEENDPOSITION, send(Base::SCI_DOCLINEFROMVISIBLE, lastVisible));
 }
 
 void ScintillaEdit::InitColor(const platform::ColorTable &colors)

@@ -88,6 +88,9 @@ private:
     int toChar(long bytePos) const;
     long toByte(int charPos) const;
     void applyColors();
+    // Where the last line on screen ends.
+    long screenEnd() const;
+    bool longLineAt(long position) const;
     void colourAhead();
     void startColouringAhead(int delay);
     int findFolded(const QString &text, int start, int end, int options);
@@ -103,6 +106,7 @@ private:
     long m_caretLine = 0;
     core::TextEncoding m_encoding = core::TextEncoding::Utf8;
     bool m_forcedDirty = false;
+    bool m_loading = false;   // a file is going in: nothing is coloured yet
     int m_colorMode = platform::ColorOff;
     platform::ColorTable m_colors;
     QString m_fontName;

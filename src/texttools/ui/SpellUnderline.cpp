@@ -105,8 +105,13 @@ void SpellUnderline::underline(QsciScintilla *view)
     view->SendScintilla(QsciScintillaBase::SCI_SETINDICATORCURRENT, kIndicator);
     view->SendScintilla(QsciScintillaBase::SCI_INDICATORCLEARRANGE, 0L,
                         view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH));
+    // A character takes at most three bytes for each of its UTF-16 units:
+    // a page of more bytes than that is too long without a copy of it.
+    const long byteLength = view->SendScintilla(QsciScintillaBase::SCI_GETLENGTH);
+    if (!enabled() || byteLength > 3 * kLargestText)
+        return;
     const QString text = view->text();
-    if (!enabled() || text.size() > kLargestText)
+    if (text.size() > kLargestText)
         return;
     const DictionaryFiles files = MainDictionary();
     if (m_checkerFor != files.dic) {

@@ -22,6 +22,7 @@ private slots:
     void init();
     void cleanup();
     void editsRecolourAsAWholeLexWould();
+    void typingOnMinifiedPagesColoursAsAWholeLex();
     void modesAndColours();
     void knownWordsChangeRecolours();
     void colouringGoesOnWhileIdle();
@@ -126,6 +127,54 @@ void tst_Colouring::editsRecolourAsAWholeLexWould()
         m_edit->colouring()->styleTo(at + 100);
         styleAll();
         QVERIFY2(styles() == freshStyles(), qPrintable(QStringLiteral("round %1 at %2").arg(round).arg(at)));
+    }
+}
+
+void tst_Colouring::typingOnMinifiedPagesColoursAsAWholeLex()
+{
+    // Pages of one long line put together from random pieces of markup,
+    // opened from a file and typed on through the control: the colours on
+    // screen after each key, and after the rest is coloured, are those of
+    // a lex of the whole page.
+    const char *const pieces[] = {
+        "<div class=\"a\">", "</div>", "<p>", "text ", "caf\xc3\xa9 \xe2\x82\xac ", "<img src=x alt='y'>",
+        "<!-- c -->", "<script>alert(\"x\");/* c */</script>", "<style>p{}</style>", "<unknown a=b>",
+        "<a href=\"", "\">", "<!DOCTYPE html>", "<b>", "</b>", "&amp;", "\xf0\x9f\x98\x80", "'", "<", ">",
+    };
+    const char *const typed[] = {"<", ">", "\"", "'", "-->", "<!--", "</script>", "<script>", "x", "=", "\xc3\xa9"};
+    QsciScintilla *sci = m_edit->view();
+    for (quint32 seed : {7u, 8u, 9u}) {
+        QRandomGenerator rng(seed);
+        QByteArray page;
+        while (page.size() < 200 * 1024)
+            page += pieces[rng.bounded(int(std::size(pieces)))];
+        QVERIFY(m_edit->LoadFile(1, m_env->write(QStringLiteral("min.html"), page)).ok());
+        QCOMPARE(m_edit->encoding(), core::TextEncoding::Utf8);
+        QCOMPARE(sci->SendScintilla(Base::SCI_GETLENGTH), long(page.size()));
+        for (int key = 0; key < 25; ++key) {
+            const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
+            long at = rng.bounded(int(n));
+            while (at > 0 && (char(sci->SendScintilla(Base::SCI_GETCHARAT, at)) & 0xC0) == 0x80)
+                --at;
+            sci->SendScintilla(Base::SCI_GOTOPOS, at);
+            if (rng.bounded(4) == 0) {
+                sci->SendScintilla(Base::SCI_DELETEBACK);
+            } else {
+                for (const QChar c : QString::fromUtf8(typed[rng.bounded(int(std::size(typed)))])) {
+                    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+                    QApplication::sendEvent(sci, &press);
+                }
+            }
+            QApplication::processEvents();
+            const long screen = sci->SendScintilla(Base::SCI_GETENDSTYLED);
+            const QByteArray fresh = freshStyles();
+            QVERIFY2(styles().left(screen) == fresh.left(screen),
+                     qPrintable(QStringLiteral("seed %1 key %2 at %3").arg(seed).arg(key).arg(at)));
+            if (key % 5 == 4) {
+                styleAll();
+                QVERIFY2(styles() == fresh, qPrintable(QStringLiteral("seed %1 key %2").arg(seed).arg(key)));
+            }
+        }
     }
 }
 

@@ -272,6 +272,15 @@ void tst_EditBuffer::filesRoundTripByteForByte_data()
     QByteArray binary;
     for (int i = 0; i < 1024; ++i)
         binary += char((i * 37) & 0xFF);
+    // Pages longer than the pieces a file is read in, with characters of
+    // two to four bytes across every boundary, and one that turns out to
+    // be 8-bit only near its end.
+    QByteArray large;
+    while (large.size() < 3 * 1024 * 1024)
+        large += QByteArray(1 + large.size() % 5, 'y') + "<b>x\xc3\xa9</b>\xe2\x82\xac\xf0\x9f\x98\x80";
+    QByteArray lateLatin = QByteArray(900 * 1024, 'a') + "caf\xe9";
+    QTest::addRow("scintilla UTF-8, several pieces") << QStringLiteral("scintilla") << large;
+    QTest::addRow("scintilla 8-bit after several pieces") << QStringLiteral("scintilla") << lateLatin;
     for (const char *kind : {"scintilla", "memory"}) {
         QTest::addRow("%s 8-bit with CR LF and LF", kind) << QString::fromLatin1(kind) << mixed;
         QTest::addRow("%s UTF-8", kind) << QString::fromLatin1(kind) << utf8;
