@@ -10,7 +10,16 @@ class Handler(http.server.BaseHTTPRequestHandler):
     def log_message(self, *args):
         pass
 
+    def leave(self):
+        # A request stops counting once its answer is ready, before it is
+        # sent: the client may start its next request the moment it has it.
+        with lock:
+            if self.counted:
+                self.counted = False
+                state["now"] -= 1
+
     def answer(self, code, headers=(), body=b""):
+        self.leave()
         self.send_response(code)
         for k, v in headers:
             self.send_header(k, v)
@@ -24,6 +33,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
             state["now"] += 1
             state["max"] = max(state["max"], state["now"])
             state["methods"].append(self.command + " " + self.path)
+        self.counted = True
         try:
             p = self.path
             if p.startswith("/stats"):
@@ -58,8 +68,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
                 return self.answer(200)
             return self.answer(404)
         finally:
-            with lock:
-                state["now"] -= 1
+            self.leave()
 
     do_GET = handle_any
     do_HEAD = handle_any
