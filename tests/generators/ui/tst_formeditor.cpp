@@ -1,6 +1,7 @@
 #include "core/HistoryList.h"
 #include "generators/ui/frmFormEditor.h"
 #include "support/FakeWorkspace.h"
+#include "support/Shots.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
 
@@ -12,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
+#include <QTabWidget>
 #include <QtTest>
 
 using namespace qly;
@@ -81,6 +83,9 @@ void tst_FormEditor::listEditsAndInsertsTheForm()
     auto *list = child<QTreeWidget>(&editor, "lstControls");
     QCOMPARE(list->topLevelItemCount(), 3);
     QCOMPARE(list->topLevelItem(1)->text(1), QStringLiteral("ok"));
+    if (auto *tabs = editor.findChild<QTabWidget *>())
+        tabs->setCurrentIndex(tabs->count() - 1);   // the elements
+    test::saveShot(&editor, QStringLiteral("form-editor-elements"));
 
     // The check box moves to the top; the reset button is deleted; the ends do not move.
     select(list, 1);
