@@ -198,7 +198,9 @@ bool FtpClient::prepare(Job &job)
         curl_easy_setopt(e, CURLOPT_SSH_KEYFUNCTION, &onHostKey);
         curl_easy_setopt(e, CURLOPT_SSH_KEYDATA, &job);
     }
-    curl_easy_setopt(e, CURLOPT_TRANSFERTEXT, job.text ? 1L : 0L);
+    // SFTP has no text mode: a file goes byte for byte (libcurl would
+    // otherwise turn its line ends into CR LF on the way).
+    curl_easy_setopt(e, CURLOPT_TRANSFERTEXT, job.text && !m_host.sftp() ? 1L : 0L);
 
     switch (job.op) {
     case FtpOp::Connect:
