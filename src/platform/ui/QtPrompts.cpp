@@ -146,9 +146,17 @@ QString QtPrompts::chooseDirectory(const QString &title, const QString &start)
     return QFileDialog::getExistingDirectory(m_parent, title, start);
 }
 
+QtPrompts::InputBox &QtPrompts::inputBox()
+{
+    static InputBox box;
+    return box;
+}
+
 std::optional<QString> QtPrompts::inputText(const QString &title, const QString &prompt, const QString &initial)
 {
     CursorPause pause(m_busy);
+    if (inputBox())
+        return inputBox()(m_parent, title, prompt, initial, false);
     bool ok = false;
     const QString text = QInputDialog::getText(m_parent, title, prompt, QLineEdit::Normal, initial, &ok);
     if (!ok)
@@ -159,6 +167,8 @@ std::optional<QString> QtPrompts::inputText(const QString &title, const QString 
 std::optional<QString> QtPrompts::inputPassword(const QString &title, const QString &prompt)
 {
     CursorPause pause(m_busy);
+    if (inputBox())
+        return inputBox()(m_parent, title, prompt, QString(), true);
     bool ok = false;
     const QString text = QInputDialog::getText(m_parent, title, prompt, QLineEdit::Password, QString(), &ok);
     if (!ok)

@@ -2,6 +2,8 @@
 
 #include "platform/Prompts.h"
 
+#include <functional>
+
 class QWidget;
 
 namespace qly::platform::ui {
@@ -21,6 +23,14 @@ public:
                                      const QString &initial) override;
     std::optional<QString> inputPassword(const QString &title, const QString &prompt) override;
     void setBusy(bool busy) override;
+
+    // The program's own input box, when one is installed: it asks for a
+    // text (masked when `password`) and gives nothing when cancelled.
+    // Without one, Qt's input dialog asks.
+    using InputBox = std::function<std::optional<QString>(QWidget *parent, const QString &title,
+                                                          const QString &prompt, const QString &initial,
+                                                          bool password)>;
+    static InputBox &inputBox();
 
 private:
     QWidget *m_parent = nullptr;

@@ -6,6 +6,7 @@
 #include "markup/TagPrimitives.h"
 #include "tagdialogs/ui/SimpleDialogs.h"
 #include "tagdialogs/ui/frmImage.h"
+#include "tagdialogs/ui/frmInput.h"
 #include "tagdialogs/ui/frmProperties.h"
 
 #include <QMainWindow>
@@ -85,6 +86,7 @@ void registerTagDialogCommands(core::ui::Shell &shell)
 {
     core::ui::CommandTable &t = shell.commands();
     QWidget *w = shell.mainWindow();
+    installInputBox();
     const QList<QPair<const char *, const char *>> commands = {
         {"InsertImage", "frmImage"},  {"InsertURL", "frmLink"},     {"InsertFTP", "frmFTPLink"},
         {"InsertEMail", "frmMail"},   {"InsertNews", "frmNews"},    {"InsertAnchor", "frmAnchor"},

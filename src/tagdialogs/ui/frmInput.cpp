@@ -1,5 +1,7 @@
 #include "tagdialogs/ui/frmInput.h"
 
+#include "platform/ui/QtPrompts.h"
+
 #include "core/ui/DialogFlags.h"
 #include "core/ui/Help.h"
 
@@ -86,6 +88,26 @@ void frmInput::reject()
     m_model.cancel();
     m_cmbInput->setCurrentIndex(-1);
     QDialog::reject();
+}
+
+void installInputBox()
+{
+    platform::ui::QtPrompts::inputBox() = [](QWidget *parent, const QString &title, const QString &prompt,
+                                             const QString &initial, bool password) -> std::optional<QString> {
+        frmInput box(parent);
+        if (!title.isEmpty())
+            box.setWindowTitle(title);
+        box.setPrompt(prompt);
+        box.askText(initial, password);
+        box.exec();
+        const QString answer = box.model().Tag;
+        if (answer.isEmpty() || answer == InputModel::cancelled())
+            return std::nullopt;
+        // OK on an empty box leaves the box's mark for "no text": the empty text.
+        if (answer == InputModel::chosen())
+            return QString();
+        return answer;
+    };
 }
 
 } // namespace qly::tagdialogs::ui

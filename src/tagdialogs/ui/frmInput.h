@@ -40,4 +40,8 @@ private:
     QPushButton *m_cmdOptions[3] = {};
 };
 
+// Makes frmInput the box in which the program asks for a text or a password
+// (platform::ui::QtPrompts::inputBox).
+void installInputBox();
+
 } // namespace qly::tagdialogs::ui

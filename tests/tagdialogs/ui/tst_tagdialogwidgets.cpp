@@ -12,6 +12,7 @@
 #include "tagdialogs/ui/TagDialog.h"
 #include "tagdialogs/ui/frmImage.h"
 #include "tagdialogs/ui/frmInput.h"
+#include "platform/ui/QtPrompts.h"
 #include "tagdialogs/ui/frmProperties.h"
 
 #include <QAbstractButton>
@@ -328,6 +329,26 @@ void tst_TagDialogWidgets::inputBox()
     QTest::keyClick(&d, Qt::Key_Escape);
     QCOMPARE(d.model().Tag, QStringLiteral("QN~CANCELLED"));
     QCOMPARE(d.cmbInput()->currentIndex(), -1);
+
+    // The program asks for passwords in this box: typed and masked, empty, cancelled.
+    tagdialogs::ui::installInputBox();
+    platform::ui::QtPrompts asker;
+    const auto answerWith = [](const QString &typed, int key) {
+        QTimer::singleShot(0, [=] {
+            QTRY_VERIFY(qobject_cast<tagdialogs::ui::frmInput *>(QApplication::activeModalWidget()));
+            auto *box = static_cast<tagdialogs::ui::frmInput *>(QApplication::activeModalWidget());
+            QCOMPARE(box->txtInput()->echoMode(), QLineEdit::Password);
+            QTest::keyClicks(box->txtInput(), typed);
+            QTest::keyClick(box->txtInput(), Qt::Key(key));
+        });
+    };
+    answerWith(QStringLiteral("s3cret"), Qt::Key_Return);
+    QCOMPARE(asker.inputPassword(QStringLiteral("Quillery"), QStringLiteral("Password?")), std::optional<QString>(QStringLiteral("s3cret")));
+    answerWith(QString(), Qt::Key_Return);
+    QCOMPARE(asker.inputPassword(QStringLiteral("Quillery"), QStringLiteral("Password?")), std::optional<QString>(QString()));
+    answerWith(QStringLiteral("x"), Qt::Key_Escape);
+    QCOMPARE(asker.inputPassword(QStringLiteral("Quillery"), QStringLiteral("Password?")), std::nullopt);
+    platform::ui::QtPrompts::inputBox() = nullptr;
 }
 
 // The real main window binds every entry and tool of the dialogs; the list
