@@ -2,6 +2,7 @@
 
 #include "core/ui/HistoryCombo.h"
 #include "transfer/FtpSession.h"
+#include "transfer/ui/ServerFields.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -13,36 +14,18 @@
 
 namespace qly::transfer::ui {
 
-namespace {
-
-const QString ServersHistory = QStringLiteral("Web Servers Used");
-
-QLineEdit *field(QWidget *parent, const char *name)
-{
-    auto *edit = new QLineEdit(parent);
-    edit->setObjectName(QString::fromLatin1(name));
-    return edit;
-}
-
-} // namespace
-
 frmOpenRemote::frmOpenRemote(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmOpenRemote"));
     setWindowTitle(QStringLiteral("Open from Server"));
     setModal(true);
 
-    m_cmbHost = new QComboBox(this);
-    m_cmbHost->setObjectName(QStringLiteral("cmbHost"));
-    m_cmbHost->setEditable(true);
-    m_cmbHost->setInsertPolicy(QComboBox::NoInsert);
-    m_cmbHost->setMinimumContentsLength(30);
-    core::ui::FillHistoryCombo(m_cmbHost, ServersHistory);
-    m_txtLoginAs = field(this, "txtLoginAs");
-    m_txtPassword = field(this, "txtPassword");
+    m_cmbHost = serverCombo(this);
+    m_txtLoginAs = namedField(this, "txtLoginAs");
+    m_txtPassword = namedField(this, "txtPassword");
     m_txtPassword->setEchoMode(QLineEdit::Password);
     m_txtPassword->setPlaceholderText(QStringLiteral("asked for when empty"));
-    m_txtRemoteFile = field(this, "txtRemoteFile");
+    m_txtRemoteFile = namedField(this, "txtRemoteFile");
     m_txtRemoteFile->setPlaceholderText(QStringLiteral("www/index.htm"));
 
     auto *form = new QFormLayout;
@@ -76,7 +59,7 @@ void frmOpenRemote::btnOpen_Click()
 {
     const RemoteOpenFields f = fields();
     if (!f.host.isEmpty())
-        core::ui::StoreHistoryCombo(m_cmbHost, ServersHistory);
+        core::ui::StoreHistoryCombo(m_cmbHost, serversHistory());
     if (OpenFromServer(f, sharedSession()))
         accept();
 }

@@ -29,20 +29,6 @@ using transfer::ui::frmOpenRemote;
 
 namespace {
 
-QByteArray readFile(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void put(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile f(path);
-    if (f.open(QIODevice::WriteOnly))
-        f.write(bytes);
-}
-
 void setField(QWidget *w, const char *name, const QString &text)
 {
     auto *edit = w->findChild<QLineEdit *>(QString::fromLatin1(name));
@@ -86,9 +72,8 @@ void tst_RemoteDocuments::cleanup()
 
 void tst_RemoteDocuments::openEditAndSaveBack()
 {
-    QTemporaryDir root;
-    put(root.path() + QStringLiteral("/www/page.htm"), "<p>old</p>\n");
-    QLY_FTP_SERVER(server, root.path());
+    m_env->write(QStringLiteral("server/www/page.htm"), "<p>old</p>\n");
+    QLY_FTP_SERVER(server, m_env->path(QStringLiteral("server")));
 
     bool stayedAfterMissing = false;
     QString missingText;
@@ -127,9 +112,9 @@ void tst_RemoteDocuments::openEditAndSaveBack()
     doc->txtDoc().setSelStart(0);
     doc->txtDoc().setSelText(QStringLiteral("<h1>new</h1>"));
     QVERIFY(m_main->commands().run(QStringLiteral("mnuSave")));
-    QCOMPARE(readFile(root.path() + QStringLiteral("/www/page.htm")), QByteArray("<h1>new</h1><p>old</p>\n"));
+    QCOMPARE(m_env->read(QStringLiteral("server/www/page.htm")), QByteArray("<h1>new</h1><p>old</p>\n"));
     // The local copy stays while the document is open.
-    QCOMPARE(readFile(temp), QByteArray("<h1>new</h1><p>old</p>\n"));
+    QCOMPARE(m_env->read(temp), QByteArray("<h1>new</h1><p>old</p>\n"));
 
     // Save to Server with the session elsewhere asks; No keeps the page's place.
     transfer::sharedSession().ChangeDirectory(QStringLiteral("/"));
@@ -140,17 +125,16 @@ void tst_RemoteDocuments::openEditAndSaveBack()
     QCOMPARE(m_prompts->shown.last().text,
              QStringLiteral("Would you like to save /www/page.htm as /page.htm\r\n  If you choose 'No' then the file "
                             "will be saved in its original location."));
-    QCOMPARE(readFile(root.path() + QStringLiteral("/www/page.htm")),
+    QCOMPARE(m_env->read(QStringLiteral("server/www/page.htm")),
              QByteArray("<!-- 2 --><h1>new</h1><p>old</p>\n"));
-    QVERIFY(!QFile::exists(root.path() + QStringLiteral("/page.htm")));
+    QVERIFY(!QFile::exists(m_env->path(QStringLiteral("server/page.htm"))));
     QCOMPARE(m_prompts->unanswered, 0);
 }
 
 void tst_RemoteDocuments::saveLocalPageToServer()
 {
-    QTemporaryDir root;
-    QDir(root.path()).mkdir(QStringLiteral("www"));
-    QLY_FTP_SERVER(server, root.path());
+    QDir().mkpath(m_env->path(QStringLiteral("server/www")));
+    QLY_FTP_SERVER(server, m_env->path(QStringLiteral("server")));
     const QString local = m_env->write(QStringLiteral("local.htm"), "<p>here</p>\n");
     QVERIFY(documents::OpenDocumentFile(local));
 
@@ -160,14 +144,14 @@ void tst_RemoteDocuments::saveLocalPageToServer()
     QCOMPARE(m_prompts->shown.at(0).text,
              QStringLiteral("You must be connected to an FTP server before using this function."));
     QCOMPARE(m_prompts->shown.at(0).title, QStringLiteral("Not Connected To Web Server"));
-    QVERIFY(!QFile::exists(root.path() + QStringLiteral("/www/local.htm")));
+    QVERIFY(!QFile::exists(m_env->path(QStringLiteral("server/www/local.htm"))));
 
     // Connected in "www": the page goes there under its own name.
     transfer::FtpClient &ftp = transfer::sharedSession();
     QVERIFY(transfer::ConnectToFtp(server.host(), test::FtpTestServer::user(), test::FtpTestServer::password(), ftp,
                                    QStringLiteral("www")));
     QVERIFY(m_main->commands().run(QStringLiteral("FileSaveRemote")));
-    QCOMPARE(readFile(root.path() + QStringLiteral("/www/local.htm")), QByteArray("<p>here</p>\n"));
+    QCOMPARE(m_env->read(QStringLiteral("server/www/local.htm")), QByteArray("<p>here</p>\n"));
     QVERIFY(QFile::exists(local));
     QCOMPARE(m_prompts->unanswered, 0);
 }
