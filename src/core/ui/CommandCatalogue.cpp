@@ -32,6 +32,8 @@ const std::vector<CommandInfo> &commandCatalogue()
         {S("mnuSaveAs"), S("Save &As..."), K(K::SaveAs)},
         {S("mnuSaveTemplate"), S("Save As Template..."), {}},
         {S("mnuSaveAll"), S("Sa&ve All"), K(S("Ctrl+Shift+L"))},
+        {S("FileOpenRemote"), S("Open f&rom Server..."), {}},
+        {S("FileSaveRemote"), S("Save &to Server"), {}},
         // Ctrl+W on every desktop (the standard Close key is Ctrl+F4 on some).
         {S("mnuClose"), S("&Close"), K(S("Ctrl+W"))},
         {S("mnuPrint"), S("&Print..."), K(K::Print)},
@@ -213,7 +215,8 @@ const std::vector<MenuLayout> &menuLayout()
 {
     static const std::vector<MenuLayout> layout = {
         {S("mnuFile"), S("&File"),
-         L({"mnuNew", "mnuOpen", "mnuSave", "mnuSaveAs", "mnuSaveTemplate", "mnuSaveAll", "mnuClose", "",
+         L({"mnuNew", "mnuOpen", "mnuSave", "mnuSaveAs", "mnuSaveTemplate", "mnuSaveAll", "FileOpenRemote", "FileSaveRemote",
+            "mnuClose", "",
             "mnuPrint", "mnuPrintPreview", "mnuPrintSetup", "", ">web|&Websites", "mnuProjectMan", "mnuOpenProject",
             "FileAddFiles", "mnuUploadProject", "<", "", "FileRecent1", "FileRecent2", "FileRecent3", "FileRecent4",
             "", "mnuExit"})},

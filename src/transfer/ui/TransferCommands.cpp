@@ -4,12 +4,15 @@
 #include "core/ui/CommandTable.h"
 #include "core/ui/EscapeWatch.h"
 #include "core/ui/Shell.h"
+#include "documents/Document.h"
+#include "documents/Workspace.h"
 #include "platform/Prompts.h"
 #include "transfer/FtpClient.h"
 #include "transfer/FtpSession.h"
 #include "transfer/RemoteDocuments.h"
 #include "transfer/WebsiteProjects.h"
 #include "transfer/ui/frmAutoDown.h"
+#include "transfer/ui/frmOpenRemote.h"
 #include "transfer/ui/frmUpload.h"
 #include "websites/WebsiteList.h"
 #include "websites/Websites.h"
@@ -43,6 +46,19 @@ void registerWindows(core::ui::Shell &shell)
     t.bind(QStringLiteral("ToolsDownload"), [window] { ShowAutoDown(window); });
 }
 
+// Open from Server and Save to Server: documents edited on a server
+// through the shared session.
+void registerRemoteDocuments(core::ui::Shell &shell)
+{
+    QMainWindow *window = shell.mainWindow();
+    core::ui::CommandTable &t = shell.commands();
+    t.bind(QStringLiteral("FileOpenRemote"), [window] { ShowOpenRemote(window); });
+    t.bind(QStringLiteral("FileSaveRemote"), [] {
+        if (documents::Document *doc = documents::Workspace::CurrentDocument())
+            doc->SaveRemote();
+    });
+}
+
 } // namespace
 
 void registerTransferCommands(core::ui::Shell &shell)
@@ -50,6 +66,7 @@ void registerTransferCommands(core::ui::Shell &shell)
     useWebsiteProjects();
     installRemoteDocumentHooks();
     registerWindows(shell);
+    registerRemoteDocuments(shell);
     FtpClient &ftp = sharedSession();
     QObject::connect(&ftp, &FtpClient::ftp_LastError, &ftp,
                      [&ftp](int code, QString &text) { tell(mainErrorReport(code, text, ftp)); });

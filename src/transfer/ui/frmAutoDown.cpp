@@ -7,6 +7,7 @@
 #include "platform/Prompts.h"
 #include "transfer/FtpClient.h"
 #include "transfer/FtpSession.h"
+#include "transfer/ui/ServerFields.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -23,19 +24,6 @@
 #include <QVBoxLayout>
 
 namespace qly::transfer::ui {
-
-namespace {
-
-const QString ServersHistory = QStringLiteral("Web Servers Used");
-
-QLineEdit *field(QWidget *parent, const char *name)
-{
-    auto *edit = new QLineEdit(parent);
-    edit->setObjectName(QString::fromLatin1(name));
-    return edit;
-}
-
-} // namespace
 
 frmAutoDown::frmAutoDown(QWidget *parent) : QDialog(parent)
 {
@@ -85,18 +73,13 @@ frmAutoDown::~frmAutoDown() = default;
 QWidget *frmAutoDown::buildServer()
 {
     auto *box = new QGroupBox(QStringLiteral("Web Server"), this);
-    m_cmbHost = new QComboBox(box);
-    m_cmbHost->setObjectName(QStringLiteral("cmbHost"));
-    m_cmbHost->setEditable(true);
-    m_cmbHost->setInsertPolicy(QComboBox::NoInsert);
-    m_cmbHost->setMinimumContentsLength(30);
-    core::ui::FillHistoryCombo(m_cmbHost, ServersHistory);
+    m_cmbHost = serverCombo(box);
     m_cmbHost->setEditText(QString());
-    m_txtRemoteDirectory = field(box, "txtRemoteDirectory");
-    m_txtLoginAs = field(box, "txtLoginAs");
-    m_txtPassword = field(box, "txtPassword");
+    m_txtRemoteDirectory = namedField(box, "txtRemoteDirectory");
+    m_txtLoginAs = namedField(box, "txtLoginAs");
+    m_txtPassword = namedField(box, "txtPassword");
     m_txtPassword->setEchoMode(QLineEdit::Password);
-    m_txtIndexURL = field(box, "txtIndexURL");
+    m_txtIndexURL = namedField(box, "txtIndexURL");
     m_txtIndexURL->setPlaceholderText(QStringLiteral("index.htm"));
     auto *form = new QFormLayout(box);
     form->addRow(QStringLiteral("Host"), m_cmbHost);
@@ -110,7 +93,7 @@ QWidget *frmAutoDown::buildServer()
 QWidget *frmAutoDown::buildSite()
 {
     auto *box = new QGroupBox(QStringLiteral("Save To"), this);
-    m_txtsavedirectory = field(box, "txtsavedirectory");
+    m_txtsavedirectory = namedField(box, "txtsavedirectory");
     auto *browse = new QToolButton(box);
     browse->setObjectName(QStringLiteral("btnBrowse"));
     browse->setText(QStringLiteral("..."));
@@ -124,7 +107,7 @@ QWidget *frmAutoDown::buildSite()
     auto *directory = new QHBoxLayout;
     directory->addWidget(m_txtsavedirectory, 1);
     directory->addWidget(browse);
-    m_txtprojectname = field(box, "txtprojectname");
+    m_txtprojectname = namedField(box, "txtprojectname");
     m_chkfetchimages = new QCheckBox(QStringLiteral("Fetch Images"), box);
     m_chkfetchimages->setObjectName(QStringLiteral("chkfetchimages"));
     m_chkfetchimages->setChecked(true);
@@ -187,7 +170,7 @@ void frmAutoDown::btnFetch_Click()
             w->setFocus();
         return;
     }
-    core::ui::StoreHistoryCombo(m_cmbHost, ServersHistory);
+    core::ui::StoreHistoryCombo(m_cmbHost, serversHistory());
 
     FtpClient &ftp = sharedSession();
     // The shared session may be open on another server, or as another user.
@@ -221,7 +204,7 @@ void frmAutoDown::btnEditServers_Click()
     edit.setWindowTitle(QStringLiteral("Edit Server List"));
     auto *text = new QPlainTextEdit(&edit);
     text->setObjectName(QStringLiteral("txtServers"));
-    text->setPlainText(core::ReadHistory(ServersHistory).join(u'\n'));
+    text->setPlainText(core::ReadHistory(serversHistory()).join(u'\n'));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &edit);
     connect(buttons, &QDialogButtonBox::accepted, &edit, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &edit, &QDialog::reject);
@@ -234,8 +217,8 @@ void frmAutoDown::btnEditServers_Click()
     QStringList servers;
     for (const QString &line : text->toPlainText().split(u'\n'))
         servers << line.trimmed();
-    core::WriteHistory(ServersHistory, servers);
-    core::ui::FillHistoryCombo(m_cmbHost, ServersHistory);
+    core::WriteHistory(serversHistory(), servers);
+    core::ui::FillHistoryCombo(m_cmbHost, serversHistory());
 }
 
 void frmAutoDown::btnClose_Click()
