@@ -62,6 +62,7 @@ const Shot kShots[] = {
     {"frmFormImage", "InsertFormImage"}, {"frmSubmit", "InsertSubmit"},
     {"frmReset", "InsertReset"},         {"frmAnimator", "InsertAnimation"},
     {"frmUpload", "ToolsUploadFiles"},   {"frmAutoDown", "ToolsDownload"},
+    {"frmOpenRemote", "FileOpenRemote"},
 };
 
 // The dialog named `topic` once it shows: pictured, then closed.

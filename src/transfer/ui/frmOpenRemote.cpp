@@ -1,5 +1,7 @@
 #include "transfer/ui/frmOpenRemote.h"
 
+#include "core/ui/Help.h"
+
 #include "core/ui/HistoryCombo.h"
 #include "transfer/FtpSession.h"
 #include "transfer/ui/ServerFields.h"
@@ -42,6 +44,7 @@ frmOpenRemote::frmOpenRemote(QWidget *parent) : QDialog(parent)
     cancel->setObjectName(QStringLiteral("btnCancel"));
     connect(open, &QPushButton::clicked, this, &frmOpenRemote::btnOpen_Click);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    core::ui::addHelpButton(buttons, this, QStringLiteral("btnHelp"));
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);

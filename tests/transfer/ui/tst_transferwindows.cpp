@@ -181,8 +181,8 @@ void tst_TransferWindows::closeStopsAnUpload()
 {
     QTemporaryDir root;
     QDir(root.path()).mkdir(QStringLiteral("www"));
-    // 200 kB a second: the picture would take twenty.
-    QLY_FTP_SERVER(server, root.path(), {QStringLiteral("--read-limit"), QStringLiteral("200000")});
+    // 100 kB a second: the picture would take forty seconds.
+    QLY_FTP_SERVER(server, root.path(), {QStringLiteral("--read-limit"), QStringLiteral("100000")});
     m_env->write(QStringLiteral("site/big.gif"), QByteArray(4000000, 'g'));
     const QString index = m_env->write(QStringLiteral("site/index.htm"), "<img src=big.gif>\n");
     QVERIFY(websites::OpenWebsite(writeProject(*m_env, server, {index})));
@@ -197,7 +197,7 @@ void tst_TransferWindows::closeStopsAnUpload()
     QElapsedTimer clock;
     clock.start();
     click(w, "btnSend");
-    QVERIFY(clock.elapsed() < 10000);
+    QVERIFY(clock.elapsed() < 20000);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!w);
     QVERIFY(!frmUpload::instance());
