@@ -17,7 +17,7 @@ packages=(
   qt6-base-dev qt6-svg-dev qt6-webengine-dev libqscintilla2-qt6-dev libgl-dev
   libcurl4-openssl-dev libhunspell-dev hunspell-en-us hunspell libgif-dev qtkeychain-qt6-dev
   qt6-image-formats-plugins
-  xvfb xauth x11-utils openbox xdotool wmctrl python3-pyftpdlib fonts-dejavu-core ccache
+  xvfb xauth x11-utils openbox xdotool wmctrl python3-pyftpdlib python3-openssl openssl fonts-dejavu-core ccache
   dbus-daemon libglib2.0-bin desktop-file-utils appstream dpkg-dev fakeroot
   gifsicle imagemagick
 )

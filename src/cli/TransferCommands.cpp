@@ -31,6 +31,7 @@ struct Session {
     QString password;
     QString directory;
     QString website;   // a project file that gives the four above
+    QString caFile;    // --cacert: certificates an FTPS server may use
     int timeout = 30;
     int parallel = 4;
 };
@@ -60,6 +61,9 @@ bool takeOptions(const QStringList &arguments, Session &s, QStringList &rest, QS
                 return false;
         } else if (a == QLatin1String("--website")) {
             if (!value(s.website))
+                return false;
+        } else if (a == QLatin1String("--cacert")) {
+            if (!value(s.caFile))
                 return false;
         } else if (a == QLatin1String("--timeout") || a == QLatin1String("--parallel")) {
             if (!value(number) || number.toInt() <= 0)
@@ -97,6 +101,7 @@ void prepare(transfer::FtpClient &ftp, const Session &s)
     ftp.password = s.password;
     ftp.TimeoutSeconds = s.timeout;
     ftp.Parallel = s.parallel;
+    ftp.CaFile = s.caFile;
     QObject::connect(&ftp, &transfer::FtpClient::ftp_LastError, [](int code, QString &text) {
         say(QStringLiteral("\nquillery-cli: error %1: %2\n").arg(code).arg(text));
     });
@@ -106,7 +111,8 @@ const char *const kUploadUsage =
     "Usage: quillery-cli upload --host HOST [--user NAME] [--password PW] [--dir REMOTE-DIR]\n"
     "                           [--only-changed] [--timeout SECONDS] [--parallel N] FILE|DIR...\n"
     "       quillery-cli upload --website PROJECT.prj [options as above] FILE|DIR...\n"
-    "The password may also come from QUILLERY_FTP_PASSWORD. HOST may be sftp://host or ftps://host.\n"
+    "The password may also come from QUILLERY_FTP_PASSWORD. HOST may be sftp://host or ftps://host;\n"
+    "--cacert FILE trusts the certificates in FILE (PEM) for an ftps:// server.\n"
     "A website project gives the server, login, stored password and directory that are not given.\n";
 
 } // namespace

@@ -190,8 +190,13 @@ bool FtpClient::prepare(Job &job)
     curl_easy_setopt(e, CURLOPT_XFERINFODATA, &job);
     if (job.fresh)
         curl_easy_setopt(e, CURLOPT_FRESH_CONNECT, 1L);
-    if (m_host.tls)
+    if (m_host.tls) {
         curl_easy_setopt(e, CURLOPT_USE_SSL, long(CURLUSESSL_ALL));
+        if (!CaFile.isEmpty()) {
+            const QByteArray ca = CaFile.toLocal8Bit();   // libcurl keeps its own copy
+            curl_easy_setopt(e, CURLOPT_CAINFO, ca.constData());
+        }
+    }
     if (m_host.sftp()) {
         const QByteArray known = knownHostsPath(KnownHostsFile).toLocal8Bit();
         curl_easy_setopt(e, CURLOPT_SSH_KNOWNHOSTS, known.constData());

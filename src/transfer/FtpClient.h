@@ -49,6 +49,9 @@ public:
     int Parallel = 4;
     // The user's known_hosts for SFTP; empty: ~/.ssh/known_hosts.
     QString KnownHostsFile;
+    // Certificates (PEM) trusted for FTPS instead of the system's; for a
+    // server with a private or self-signed certificate. Empty: the system's.
+    QString CaFile;
 
     bool Connected() const { return m_connected; }
     QString ReplyString() const { return m_reply; }
