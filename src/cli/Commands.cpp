@@ -54,13 +54,13 @@ const std::vector<Subcommand> &subcommands()
          appCommand},
         {QStringLiteral("upload"),
          QStringLiteral("--host HOST [--user NAME] [--password PW] [--dir REMOTE-DIR] [--only-changed]\n"
-                        "      [--timeout SECONDS] [--parallel N] FILE|DIR..."),
+                        "      [--timeout SECONDS] [--parallel N] [--cacert PEM] FILE|DIR..."),
          QStringLiteral("Send files, and folders with their tree, to an FTP (or sftp://, ftps://) server;\n"
                         "      the password may come from QUILLERY_FTP_PASSWORD; failed files are listed"),
          uploadCommand},
         {QStringLiteral("download"),
          QStringLiteral("--host HOST --user NAME [--password PW] [--dir REMOTE-DIR] [--no-images] [--overwrite]\n"
-                        "      INDEX-PAGE SAVE-DIR WEBSITE-NAME"),
+                        "      [--cacert PEM] INDEX-PAGE SAVE-DIR WEBSITE-NAME"),
          QStringLiteral("Fetch a whole site over FTP from its index page, with a new website project"),
          downloadCommand},
     };

@@ -109,7 +109,7 @@ void prepare(transfer::FtpClient &ftp, const Session &s)
 
 const char *const kUploadUsage =
     "Usage: quillery-cli upload --host HOST [--user NAME] [--password PW] [--dir REMOTE-DIR]\n"
-    "                           [--only-changed] [--timeout SECONDS] [--parallel N] FILE|DIR...\n"
+    "                           [--only-changed] [--timeout SECONDS] [--parallel N] [--cacert PEM] FILE|DIR...\n"
     "       quillery-cli upload --website PROJECT.prj [options as above] FILE|DIR...\n"
     "The password may also come from QUILLERY_FTP_PASSWORD. HOST may be sftp://host or ftps://host;\n"
     "--cacert FILE trusts the certificates in FILE (PEM) for an ftps:// server.\n"
@@ -161,7 +161,7 @@ int downloadCommand(const QStringList &arguments)
         flagsOk = flagsOk && known.contains(f);
     if (!parsed || rest.size() != 3 || !flagsOk) {
         std::fputs("Usage: quillery-cli download --host HOST --user NAME [--password PW] [--dir REMOTE-DIR]\n"
-                   "                             [--no-images] [--overwrite] [--timeout SECONDS]\n"
+                   "                             [--no-images] [--overwrite] [--timeout SECONDS] [--cacert PEM]\n"
                    "                             INDEX-PAGE SAVE-DIR WEBSITE-NAME\n"
                    "Fetches the site from INDEX-PAGE into SAVE-DIR with a project file WEBSITE-NAME.prj;\n"
                    "what could not be fetched is listed in SAVE-DIR/Autodownload.log.\n",
