@@ -9,7 +9,7 @@ namespace qly::test {
 
 void saveShot(QWidget *widget, const QString &name)
 {
-    const QString folder = qEnvironmentVariable("QUILLERY_SHOTS");
+    const QString folder = qEnvironmentVariable("QLY_SHOT_DIR");
     if (folder.isEmpty() || !widget)
         return;
     QDir().mkpath(folder);

@@ -7,6 +7,7 @@
 #include "generators/ImageMapModel.h"
 #include "generators/ui/ImageMapCanvas.h"
 #include "generators/ui/frmImageMap.h"
+#include "support/Shots.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -86,15 +87,6 @@ void drag(QWidget *w, QPoint from, QPoint to)
     QTest::mouseRelease(w, Qt::LeftButton, {}, to);
 }
 
-void shoot(QWidget *w, const QString &name)
-{
-    const QString dir = qEnvironmentVariable("QLY_SHOT_DIR");
-    if (dir.isEmpty())
-        return;
-    QApplication::processEvents();
-    w->grab().save(dir + QLatin1Char('/') + name);
-}
-
 } // namespace
 
 class TestFrmImageMap : public QObject
@@ -161,7 +153,7 @@ void TestFrmImageMap::drawMoveDeleteAndWrite()
     QTest::mouseClick(canvas, Qt::LeftButton, {}, {280, 90});
     QCOMPARE(canvas->currentRegion(), 2);
     QCOMPARE(dialog->findChild<QLineEdit *>(QStringLiteral("txtRegionURL"))->text(), QStringLiteral("sun.htm"));
-    shoot(dialog, QStringLiteral("imagemap-editor.png"));
+    test::saveShot(dialog, QStringLiteral("imagemap-editor"));
 
     // Move the rectangle by 10 pixels; a drag past the edge stops at it.
     drag(canvas, {100, 80}, {110, 90});

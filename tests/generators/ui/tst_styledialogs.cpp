@@ -20,6 +20,7 @@
 #include "generators/ui/frmCSSImport.h"
 #include "generators/ui/frmCSSSimple.h"
 #include "platform/HTMLEdit.h"
+#include "support/Shots.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -83,15 +84,6 @@ StyleRecord boxStyle()
     return r;
 }
 
-void shoot(QWidget *w, const QString &name)
-{
-    const QString dir = qEnvironmentVariable("QLY_SHOT_DIR");
-    if (dir.isEmpty())
-        return;
-    QApplication::processEvents();
-    w->grab().save(dir + QLatin1Char('/') + name);
-}
-
 template <typename T>
 T *child(QWidget *parent, const char *name)
 {
@@ -127,7 +119,7 @@ void TestStyleDialogs::editorKeepsAStyleAndChecksIt()
     QCOMPARE(StyleText(style.StyleName, editor.record(), identity), StyleText(style.StyleName, style, identity));
     for (int i = 0; i < editor.pages()->count(); ++i) {
         editor.pages()->setCurrentIndex(i);
-        shoot(&editor, QStringLiteral("imagemap-css-page%1.png").arg(i + 1));
+        test::saveShot(&editor, QStringLiteral("imagemap-css-page%1").arg(i + 1));
     }
     QVERIFY(!editor.changed());
 

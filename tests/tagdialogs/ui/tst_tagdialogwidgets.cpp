@@ -5,6 +5,7 @@
 #include "documents/DocumentList.h"
 #include "documents/Document.h"
 #include "platform/HTMLEdit.h"
+#include "support/Shots.h"
 #include "support/FakeWorkspace.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TestEnv.h"
@@ -311,9 +312,7 @@ void tst_TagDialogWidgets::inputBox()
     QVERIFY(QTest::qWaitForWindowActive(&d));
     d.txtInput()->setFocus();
     QTest::keyClicks(d.txtInput(), QStringLiteral("yz"));
-    // QLY_SHOT=FILE.png keeps a picture of the box (for looking at it under Xvfb).
-    if (qEnvironmentVariableIsSet("QLY_SHOT"))
-        QVERIFY(d.grab().save(qEnvironmentVariable("QLY_SHOT")));
+    test::saveShot(&d, QStringLiteral("input-box"));
     QTest::keyClick(d.txtInput(), Qt::Key_Return);
     QCOMPARE(d.model().Tag, QStringLiteral("xyz"));
     QVERIFY(d.isHidden());
