@@ -21,6 +21,13 @@ IoResult readWholeFile(const QString &path, QByteArray &bytes)
     return {};
 }
 
+IoResult copyFileAtomically(const QString &from, const QString &to)
+{
+    QByteArray bytes;
+    IoResult result = readWholeFile(from, bytes);
+    return result.ok() ? writeFileAtomically(to, bytes) : result;
+}
+
 IoResult writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
     AtomicFileWriter writer(path);

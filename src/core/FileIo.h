@@ -28,6 +28,9 @@ IoResult readWholeFile(const QString &path, QByteArray &bytes);
 // is written in place.
 IoResult writeFileAtomically(const QString &path, const QByteArray &bytes);
 
+// Copies `from` over `to` in the same way: `to` is old or new, never half.
+IoResult copyFileAtomically(const QString &from, const QString &to);
+
 // The same replacement for a file that is written piece by piece as it is
 // made: nothing of it shows at `path` until commit() succeeds, and a writer
 // that is dropped uncommitted leaves the old file as it was.

@@ -41,9 +41,7 @@ QString existingAncestor(QString dir)
 
 bool copyFile(const QString &from, const QString &to)
 {
-    QByteArray bytes;
-    return core::readWholeFile(from, bytes).ok() && QDir().mkpath(core::DirectoryOf(to))
-        && core::writeFileAtomically(to, bytes).ok();
+    return QDir().mkpath(core::DirectoryOf(to)) && core::copyFileAtomically(from, to).ok();
 }
 
 bool isImage(const Resource &r)

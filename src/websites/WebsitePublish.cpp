@@ -31,11 +31,6 @@ QString placeInSite(const QString &file, const QString &siteDir)
     return (relative.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(relative)) ? QString() : relative;
 }
 
-bool copyFile(const QString &source, const QString &target)
-{
-    QByteArray bytes;
-    return core::readWholeFile(source, bytes).ok() && core::writeFileAtomically(target, bytes).ok();
-}
 
 } // namespace
 
@@ -66,7 +61,7 @@ WebsitePublishReport PublishWebsite(int id, const QString &directory)
     auto writable = [&](const QString &file, const QString &to) { return QFileInfo(to) != QFileInfo(file); };
     auto copy = [&](const QString &file) {
         const QString to = target(file);
-        if (writable(file, to) && copyFile(file, to))
+        if (writable(file, to) && core::copyFileAtomically(file, to).ok())
             ++report.copied;
         else
             report.failed << file;

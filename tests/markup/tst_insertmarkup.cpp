@@ -187,7 +187,7 @@ void tst_InsertMarkup::lineEndsStayWhole()
     // empty line alone; "two" with the CR, and with the LF before it.
     const QList<std::pair<int, int>> places = {{4, 0}, {6, 0}, {6, 1}, {8, 4}, {7, 4}};
     const QRegularExpression lone(QStringLiteral("\r(?!\n)|(?<!\r)\n"));
-    for (const QString container : {QStringLiteral("No"), QStringLiteral("Yes")}) {
+    for (const QString &container : {QStringLiteral("No"), QStringLiteral("Yes")}) {
         for (qsizetype c = 0; c < commands.size(); ++c) {
             for (const auto &[start, length] : places) {
                 test::TestEnv env;

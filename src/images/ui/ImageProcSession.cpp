@@ -48,7 +48,7 @@ bool ImageProcSession::LoadProcImage(const QString &file)
         m_originalGif = bytes;
     bool ok = writeGifSide();
     if (ext == QLatin1String("jpg") || ext == QLatin1String("jpeg"))
-        ok = core::readWholeFile(file, bytes).ok() && core::writeFileAtomically(jpegPath(), bytes).ok() && ok;
+        ok = core::copyFileAtomically(file, jpegPath()).ok() && ok;
     else
         ok = SaveJpeg(m_picture, jpegPath(), m_quality) && ok;
     readTransparency();
@@ -111,10 +111,9 @@ QString ImageProcSession::Save(int index)
     const platform::FileAnswer answer = platform::prompts().saveFile(request);
     if (!answer.accepted())
         return {};
-    QByteArray bytes;
     const QString from = index == 0 ? gifPath() : jpegPath();
     const QString target = answer.files.first();
-    if (!core::readWholeFile(from, bytes).ok() || !core::writeFileAtomically(target, bytes).ok())
+    if (!core::copyFileAtomically(from, target).ok())
         return {};
     return target;
 }
