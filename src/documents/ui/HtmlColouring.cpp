@@ -84,25 +84,103 @@ void HtmlColouring::setEditor(QsciScintilla *editor)
         disconnect(old, nullptr, this, nullptr);
     QsciLexerCustom::setEditor(editor);
     m_checkpoints.clear();
+    m_oldCheckpoints.clear();
+    m_nextOld = 0;
+    m_changedTo = -1;
     if (editor) {
         connect(editor, &QsciScintillaBase::SCN_MODIFIED, this,
-                [this](int position, int type, const char *, int, int, int, int, int, int, int) {
-                    textChanged(position, type);
+                [this](int position, int type, const char *, int length, int, int, int, int, int, int) {
+                    textChanged(position, type, length);
                 });
     }
 }
 
-void HtmlColouring::textChanged(int position, int modificationType)
+void HtmlColouring::textChanged(int position, int modificationType, int length)
 {
-    if (!(modificationType & (Base::SC_MOD_BEFOREINSERT | Base::SC_MOD_BEFOREDELETE | Base::SC_MOD_INSERTTEXT
-                              | Base::SC_MOD_DELETETEXT)))
+    // Each change is taken from the notice before it, while the colouring
+    // still reaches as far as it did.
+    const bool inserting = modificationType & Base::SC_MOD_BEFOREINSERT;
+    if (!inserting && !(modificationType & Base::SC_MOD_BEFOREDELETE))
         return;
+    const I p = position;
+    const I removed = inserting ? 0 : length;
+    const I shift = inserting ? length : -I(length);
+    const I changeEnd = p + removed;
+
+    // What the lexer knew past the change stays, moved with the text.
+    const I coloured = std::max<I>(endStyled(), m_oldColouredTo);
+    std::vector<Checkpoint> old;
+    if (coloured > changeEnd + kLookahead) {
+        auto keep = [&](const Checkpoint &cp) {
+            if (cp.first > changeEnd + kLookahead)
+                old.emplace_back(cp.first + shift, cp.second);
+        };
+        for (const Checkpoint &cp : m_checkpoints)
+            keep(cp);
+        for (std::size_t k = m_nextOld; k < m_oldCheckpoints.size(); ++k)
+            keep(m_oldCheckpoints[k]);
+        m_oldColouredTo = coloured + shift;
+    } else {
+        m_oldColouredTo = 0;
+    }
+    m_oldCheckpoints = std::move(old);
+    m_nextOld = 0;
+    if (m_changedTo > changeEnd)
+        m_changedTo += shift;
+    else if (m_changedTo > p)
+        m_changedTo = p;
+    m_changedTo = std::max(m_changedTo, p + std::max<I>(shift, 0));
+
     // Decisions look a few bytes ahead: a state just before the change may
     // rest on bytes that changed.
-    const I valid = I(position) - kLookahead;
+    const I valid = p - kLookahead;
     const auto cut = std::upper_bound(m_checkpoints.begin(), m_checkpoints.end(), valid,
                                       [](I pos, const auto &cp) { return pos < cp.first; });
     m_checkpoints.erase(cut, m_checkpoints.end());
+}
+
+I HtmlColouring::nextMeeting(I pos)
+{
+    while (m_nextOld < m_oldCheckpoints.size()
+           && (m_oldCheckpoints[m_nextOld].first < pos || m_oldCheckpoints[m_nextOld].first < m_changedTo + kLookahead))
+        ++m_nextOld;
+    return m_nextOld < m_oldCheckpoints.size() ? m_oldCheckpoints[m_nextOld].first : -1;
+}
+
+bool HtmlColouring::meets(I pos, const LexState &state) const
+{
+    if (m_nextOld >= m_oldCheckpoints.size() || m_oldCheckpoints[m_nextOld].first != pos)
+        return false;
+    // Only where nothing is open that a later byte could colour again (a
+    // value found unfinished); where the start of a token is not part of
+    // what the lexer goes on from.
+    switch (state.mode) {
+    case LexState::QuotedValue:
+    case LexState::InComment:
+    case LexState::InDeclaration:
+        return false;
+    case LexState::InScript:
+        if (state.script != LexState::ScriptCode)
+            return false;
+        break;
+    default:
+        break;
+    }
+    LexState old = m_oldCheckpoints[m_nextOld].second;
+    old.tokenStart = state.tokenStart;
+    return old == state;
+}
+
+void HtmlColouring::takeOldColouring()
+{
+    for (std::size_t k = m_nextOld; k < m_oldCheckpoints.size(); ++k)
+        if (m_checkpoints.empty() || m_checkpoints.back().first < m_oldCheckpoints[k].first)
+            m_checkpoints.push_back(m_oldCheckpoints[k]);
+    editor()->SendScintilla(Base::SCI_STARTSTYLING, uintptr_t(m_oldColouredTo));
+    m_oldCheckpoints.clear();
+    m_nextOld = 0;
+    m_oldColouredTo = 0;
+    m_changedTo = -1;
 }
 
 std::pair<I, LexState> HtmlColouring::restartBefore(I position) const
@@ -122,6 +200,10 @@ long HtmlColouring::endStyled() const
 void HtmlColouring::restyleAll()
 {
     m_checkpoints.clear();
+    m_oldCheckpoints.clear();
+    m_nextOld = 0;
+    m_oldColouredTo = 0;
+    m_changedTo = -1;
     if (editor())
         editor()->SendScintilla(Base::SCI_STARTSTYLING, uintptr_t(0));
 }
@@ -159,10 +241,25 @@ void HtmlColouring::styleTo(long end)
     ScintillaSink sink(sci, std::max<I>(from - kLookahead, pos));
     const KnownWords &words = knownWords();
     while (pos < end) {
-        const I step = std::min<I>(end, (pos / kCheckpointEvery + 1) * kCheckpointEvery);
+        I step = std::min<I>(end, (pos / kCheckpointEvery + 1) * kCheckpointEvery);
+        const I meeting = nextMeeting(pos + 1);
+        if (meeting > pos && meeting < step)
+            step = meeting;
         pos = lexHtml(text, readable, readable == length, pos, step, state, sink, words);
         if (m_checkpoints.empty() || m_checkpoints.back().first < pos)
             m_checkpoints.emplace_back(pos, state);
+        if (m_changedTo >= 0 && pos >= m_changedTo + kLookahead)
+            m_changedTo = -1;
+        nextMeeting(pos);
+        if (meets(pos, state)) {
+            // From here on the page is coloured as it was before the change.
+            sink.commit();
+            const I to = m_oldColouredTo;
+            takeOldColouring();
+            if (to < end)
+                styleTo(end);
+            return;
+        }
     }
     sink.commit();
 }

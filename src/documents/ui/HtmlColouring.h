@@ -32,12 +32,27 @@ public:
     void restyleAll();
 
 private:
-    void textChanged(int position, int modificationType);
+    using Checkpoint = std::pair<std::int64_t, LexState>;
+
+    void textChanged(int position, int modificationType, int length);
     std::pair<std::int64_t, LexState> restartBefore(std::int64_t position) const;
+    // The next point past the changes where the old colouring may be met.
+    std::int64_t nextMeeting(std::int64_t pos);
+    bool meets(std::int64_t pos, const LexState &state) const;
+    void takeOldColouring();
 
     // The lexer's state at points it passed, by position; valid up to the
     // first change before them.
-    std::vector<std::pair<std::int64_t, LexState>> m_checkpoints;
+    std::vector<Checkpoint> m_checkpoints;
+    // The states the lexer had past the changes not coloured yet (moved
+    // with them), and how far that colouring reached. Lexing that comes to
+    // one of them in the same state knows that the rest, up to
+    // m_oldColouredTo, is coloured as before.
+    std::vector<Checkpoint> m_oldCheckpoints;
+    std::size_t m_nextOld = 0;
+    std::int64_t m_oldColouredTo = 0;
+    // Every change not coloured yet ends before this (-1: none).
+    std::int64_t m_changedTo = -1;
     int m_wordsGeneration = -1;
 };
 

@@ -172,6 +172,9 @@ ScintillaEdit::ScintillaEdit(QWidget *parent)
     m_sci->setEolMode(QsciScintilla::EolWindows);
     m_sci->setMarginWidth(1, 0);
     m_sci->setCaretLineVisible(false);
+    // The caret's line keeps its layout while the other lines on screen are
+    // drawn, so that a key on a long line lays out only what it changed.
+    send(Base::SCI_SETLAYOUTCACHE, Base::SC_CACHE_PAGE);
     // Every change reaches the character index and the colouring before it
     // is made. Only those two notices are asked for: QScintilla answers a
     // notice of inserted or deleted text by counting the characters from
@@ -204,7 +207,14 @@ ScintillaEdit::ScintillaEdit(QWidget *parent)
             });
     keepAccessibilityCheap();
     connect(m_sci, &QsciScintilla::selectionChanged, this, &ScintillaEdit::caretMoved);
-    connect(m_sci, &QsciScintilla::cursorPositionChanged, this, [this](int line, int) {
+    // The caret's line, without its column: QScintilla's cursorPositionChanged
+    // counts the column from the start of the line, too slow on a long one.
+    connect(m_sci, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int) {
+        const long pos = send(Base::SCI_GETCURRENTPOS);
+        if (pos == m_caretPos)
+            return;
+        m_caretPos = pos;
+        const int line = int(send(Base::SCI_LINEFROMPOSITION, pos));
         // Leaving a line recolours the page when [Editing] "Color On Leaving Line" says so.
         if (line != m_caretLine && core::gColorOnLeavingLine)
             ColorHTML();

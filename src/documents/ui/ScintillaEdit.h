@@ -104,6 +104,7 @@ private:
     QTimer *m_colourAhead = nullptr;
     qint64 m_lastChange = 0;
     long m_caretLine = 0;
+    long m_caretPos = -1;
     core::TextEncoding m_encoding = core::TextEncoding::Utf8;
     bool m_forcedDirty = false;
     bool m_loading = false;   // a file is going in: nothing is coloured yet

@@ -26,6 +26,7 @@ private slots:
     void modesAndColours();
     void knownWordsChangeRecolours();
     void colouringGoesOnWhileIdle();
+    void longLinesAreLaidOutAsAWhole();
 
 private:
     QByteArray styles() const;
@@ -115,13 +116,18 @@ void tst_Colouring::editsRecolourAsAWholeLexWould()
     const char *const inserts[] = {"<", ">", "\"", "'", "-->", "<!--", "</script>", "<script>", " ", "b", "=", "/*"};
     QsciScintilla *sci = m_edit->view();
     for (int round = 0; round < 60; ++round) {
-        const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
-        const long at = rng.bounded(int(n));
-        if (rng.bounded(3) == 0) {
-            sci->SendScintilla(Base::SCI_DELETERANGE, at, std::min<long>(1 + rng.bounded(12), n - at));
-        } else {
-            const char *text = inserts[rng.bounded(int(std::size(inserts)))];
-            sci->SendScintilla(Base::SCI_INSERTTEXT, uintptr_t(at), text);
+        // One to four edits before anything is coloured again (a paste, a
+        // replace, an undo of several), anywhere on the line.
+        long at = 0;
+        for (int edits = 1 + rng.bounded(4); edits > 0; --edits) {
+            const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
+            at = rng.bounded(int(n));
+            if (rng.bounded(3) == 0) {
+                sci->SendScintilla(Base::SCI_DELETERANGE, at, std::min<long>(1 + rng.bounded(12), n - at));
+            } else {
+                const char *text = inserts[rng.bounded(int(std::size(inserts)))];
+                sci->SendScintilla(Base::SCI_INSERTTEXT, uintptr_t(at), text);
+            }
         }
         // The screen asks for a little; the rest follows.
         m_edit->colouring()->styleTo(at + 100);
@@ -231,6 +237,65 @@ void tst_Colouring::colouringGoesOnWhileIdle()
     QVERIFY(!m_edit->colouringComplete());
     QTRY_VERIFY_WITH_TIMEOUT(m_edit->colouringComplete(), 10000);
     QCOMPARE(m_edit->view()->SendScintilla(Base::SCI_GETSTYLEAT, uintptr_t(page.size() - 15)), long(S::ErrorTag));
+}
+
+void tst_Colouring::longLinesAreLaidOutAsAWhole()
+{
+    // A key on a long line lays out again only the part it changed and
+    // moves the rest: every character must stand where a layout of the
+    // whole line puts it, whatever was typed (tabs, a line break, several
+    // bytes at once, undo) and wherever.
+    QByteArray page;
+    QRandomGenerator rng(5);
+    const char *const pieces[] = {"<div class=\"a\">", "</div>", "text ", "caf\xc3\xa9 ", "<!-- c -->",
+                                  "<script>alert('x');</script>", "<b>", "</b>", "&amp;", "wordwordword "};
+    while (page.size() < 120 * 1024)
+        page += pieces[rng.bounded(int(std::size(pieces)))];
+    QVERIFY(m_edit->LoadFile(1, m_env->write(QStringLiteral("one-line.html"), page)).ok());
+    QsciScintilla *sci = m_edit->view();
+    auto xs = [sci](long around) {
+        const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
+        QList<long> out;
+        for (long pos : {0L, around - 40, around - 1, around, around + 1, around + 7, around + 300, n / 3, n / 2,
+                         n - 5000, n - 1, n}) {
+            pos = sci->SendScintilla(Base::SCI_POSITIONBEFORE, std::clamp(pos + 1, 1L, n));
+            out << sci->SendScintilla(Base::SCI_POINTXFROMPOSITION, 0UL, pos)
+                << sci->SendScintilla(Base::SCI_POINTYFROMPOSITION, 0UL, pos);
+        }
+        return out;
+    };
+    auto key = [sci](const QString &text) {
+        for (const QChar c : text) {
+            QKeyEvent press(QEvent::KeyPress, c == u'\t' ? Qt::Key_Tab : c == u'\r' ? Qt::Key_Return : 0,
+                            Qt::NoModifier, QString(c));
+            QApplication::sendEvent(sci, &press);
+        }
+    };
+    const QStringList typed = {QStringLiteral("x"), QStringLiteral("<b>"), QStringLiteral("\""),
+                               QStringLiteral("\u00e9\u20ac"), QStringLiteral("<!--"), QStringLiteral("\t"),
+                               QStringLiteral("\r"), QStringLiteral("-->")};
+    for (int round = 0; round < 40; ++round) {
+        const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
+        const long at = sci->SendScintilla(Base::SCI_POSITIONBEFORE, rng.bounded(int(n)) + 1);
+        sci->SendScintilla(Base::SCI_GOTOPOS, at);
+        const int what = rng.bounded(10);
+        if (what == 0)
+            sci->SendScintilla(Base::SCI_DELETEBACK);
+        else if (what == 1)
+            sci->SendScintilla(Base::SCI_UNDO);
+        else
+            key(typed[rng.bounded(int(typed.size()))]);
+        QApplication::processEvents();
+        const long caret = sci->SendScintilla(Base::SCI_GETCURRENTPOS);
+        const QList<long> kept = xs(caret);
+        // The same tab width again makes the control lay every line out anew.
+        sci->SendScintilla(Base::SCI_SETTABWIDTH, sci->SendScintilla(Base::SCI_GETTABWIDTH));
+        const QList<long> whole = xs(caret);
+        for (qsizetype i = 0; i < whole.size(); ++i)
+            QVERIFY2(std::abs(kept[i] - whole[i]) <= 1,
+                     qPrintable(QStringLiteral("round %1 at %2: sample %3 is %4, a whole layout says %5")
+                                    .arg(round).arg(at).arg(i).arg(kept[i]).arg(whole[i])));
+    }
 }
 
 QTEST_MAIN(tst_Colouring)
