@@ -14,7 +14,7 @@ what="${1:-run}"
 
 packages=(
   cmake ninja-build g++ pkg-config
-  qt6-base-dev qt6-svg-dev qt6-webengine-dev libqscintilla2-qt6-dev libgl-dev
+  qt6-base-dev qt6-svg-dev qt6-webengine-dev libgl-dev
   libcurl4-openssl-dev libhunspell-dev hunspell-en-us hunspell libgif-dev qtkeychain-qt6-dev
   qt6-image-formats-plugins
   xvfb xauth x11-utils openbox xdotool wmctrl python3-pyftpdlib python3-openssl openssl fonts-dejavu-core ccache

@@ -88,6 +88,16 @@ int Main(int argc, char **argv)
     // The preview browser refuses to run as root inside its sandbox.
     if (::geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    // The preview draws in software: the browser engine otherwise makes an
+    // OpenGL context at start-up, which loads the desktop's GL driver (with
+    // a software GL, tens of megabytes of compiler) before any page is
+    // shown. QUILLERY_PREVIEW_GPU=1 gives the preview the GPU.
+    if (qEnvironmentVariableIntValue("QUILLERY_PREVIEW_GPU") == 0) {
+        if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+            qputenv("QT_XCB_GL_INTEGRATION", "none");
+        if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+            qputenv("QT_QUICK_BACKEND", "software");
+    }
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillery"));
