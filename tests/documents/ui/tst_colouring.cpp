@@ -244,20 +244,14 @@ void tst_Colouring::longLinesAreLaidOutAsAWhole()
     // A key on a long line lays out again only the part it changed and
     // moves the rest: every character must stand where a layout of the
     // whole line puts it, whatever was typed (tabs, a line break, several
-    // bytes at once, undo) and wherever.
-    QByteArray page;
-    QRandomGenerator rng(5);
-    const char *const pieces[] = {"<div class=\"a\">", "</div>", "text ", "caf\xc3\xa9 ", "<!-- c -->",
-                                  "<script>alert('x');</script>", "<b>", "</b>", "&amp;", "wordwordword "};
-    while (page.size() < 120 * 1024)
-        page += pieces[rng.bounded(int(std::size(pieces)))];
-    QVERIFY(m_edit->LoadFile(1, m_env->write(QStringLiteral("one-line.html"), page)).ok());
+    // bytes at once, undo) and wherever; coloured, and as plain text where
+    // the line is one long run of one style.
     QsciScintilla *sci = m_edit->view();
     auto xs = [sci](long around) {
         const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
         QList<long> out;
-        for (long pos : {0L, around - 40, around - 1, around, around + 1, around + 7, around + 300, n / 3, n / 2,
-                         n - 5000, n - 1, n}) {
+        for (long pos : {0L, around - 400, around - 40, around - 1, around, around + 1, around + 7, around + 300,
+                         around + 2000, n / 3, n / 2, n - 5000, n - 1, n}) {
             pos = sci->SendScintilla(Base::SCI_POSITIONBEFORE, std::clamp(pos + 1, 1L, n));
             out << sci->SendScintilla(Base::SCI_POINTXFROMPOSITION, 0UL, pos)
                 << sci->SendScintilla(Base::SCI_POINTYFROMPOSITION, 0UL, pos);
@@ -273,28 +267,44 @@ void tst_Colouring::longLinesAreLaidOutAsAWhole()
     };
     const QStringList typed = {QStringLiteral("x"), QStringLiteral("<b>"), QStringLiteral("\""),
                                QStringLiteral("\u00e9\u20ac"), QStringLiteral("<!--"), QStringLiteral("\t"),
-                               QStringLiteral("\r"), QStringLiteral("-->")};
-    for (int round = 0; round < 40; ++round) {
-        const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
-        const long at = sci->SendScintilla(Base::SCI_POSITIONBEFORE, rng.bounded(int(n)) + 1);
-        sci->SendScintilla(Base::SCI_GOTOPOS, at);
-        const int what = rng.bounded(10);
-        if (what == 0)
-            sci->SendScintilla(Base::SCI_DELETEBACK);
-        else if (what == 1)
-            sci->SendScintilla(Base::SCI_UNDO);
-        else
-            key(typed[rng.bounded(int(typed.size()))]);
-        QApplication::processEvents();
-        const long caret = sci->SendScintilla(Base::SCI_GETCURRENTPOS);
-        const QList<long> kept = xs(caret);
-        // The same tab width again makes the control lay every line out anew.
-        sci->SendScintilla(Base::SCI_SETTABWIDTH, sci->SendScintilla(Base::SCI_GETTABWIDTH));
-        const QList<long> whole = xs(caret);
-        for (qsizetype i = 0; i < whole.size(); ++i)
-            QVERIFY2(std::abs(kept[i] - whole[i]) <= 1,
-                     qPrintable(QStringLiteral("round %1 at %2: sample %3 is %4, a whole layout says %5")
-                                    .arg(round).arg(at).arg(i).arg(kept[i]).arg(whole[i])));
+                               QStringLiteral("\r"), QStringLiteral("-->"), QStringLiteral(" "),
+                               QStringLiteral("  word ")};
+    const QList<QByteArrayList> pages = {
+        {"<div class=\"a\">", "</div>", "text ", "caf\xc3\xa9 ", "<!-- c -->", "<script>alert('x');</script>",
+         "<b>", "</b>", "&amp;", "wordwordword "},
+        {"plain words ", "of a long line ", "with no markup at all, ", "a", "  ", "longerwordthanmost "},
+    };
+    for (int mode : {platform::ColorTagSyntax, platform::ColorOff}) {
+        for (const QByteArrayList &pieces : pages) {
+            QRandomGenerator rng(5);
+            QByteArray page;
+            while (page.size() < 120 * 1024)
+                page += pieces[rng.bounded(int(pieces.size()))];
+            m_edit->setColorMode(mode);
+            QVERIFY(m_edit->LoadFile(1, m_env->write(QStringLiteral("one-line.html"), page)).ok());
+            for (int round = 0; round < 30; ++round) {
+                const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
+                const long at = sci->SendScintilla(Base::SCI_POSITIONBEFORE, rng.bounded(int(n)) + 1);
+                sci->SendScintilla(Base::SCI_GOTOPOS, at);
+                const int what = rng.bounded(10);
+                if (what == 0)
+                    sci->SendScintilla(Base::SCI_DELETEBACK);
+                else if (what == 1)
+                    sci->SendScintilla(Base::SCI_UNDO);
+                else
+                    key(typed[rng.bounded(int(typed.size()))]);
+                QApplication::processEvents();
+                const long caret = sci->SendScintilla(Base::SCI_GETCURRENTPOS);
+                const QList<long> kept = xs(caret);
+                // The same tab width again makes the control lay every line out anew.
+                sci->SendScintilla(Base::SCI_SETTABWIDTH, sci->SendScintilla(Base::SCI_GETTABWIDTH));
+                const QList<long> whole = xs(caret);
+                for (qsizetype i = 0; i < whole.size(); ++i)
+                    QVERIFY2(std::abs(kept[i] - whole[i]) <= 1,
+                             qPrintable(QStringLiteral("mode %1 round %2 at %3: sample %4 is %5, a whole layout says %6")
+                                            .arg(mode).arg(round).arg(at).arg(i).arg(kept[i]).arg(whole[i])));
+            }
+        }
     }
 }
 
