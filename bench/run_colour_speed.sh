@@ -12,3 +12,6 @@ export QT_QPA_PLATFORM=offscreen
 "$b" open "$dir/quillery-colour-50mb.html"
 "$b" type "$dir/quillery-colour-50mb.html" end 200
 "$b" type "$dir/quillery-colour-1line.html" middle 50
+# The same page with colouring off: the line is one run of one style.
+echo "colouring off:"
+QLY_BENCH_PLAIN=1 "$b" type "$dir/quillery-colour-1line.html" middle 50
