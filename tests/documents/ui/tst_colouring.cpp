@@ -269,16 +269,28 @@ void tst_Colouring::longLinesAreLaidOutAsAWhole()
                                QStringLiteral("\u00e9\u20ac"), QStringLiteral("<!--"), QStringLiteral("\t"),
                                QStringLiteral("\r"), QStringLiteral("-->"), QStringLiteral(" "),
                                QStringLiteral("  word ")};
-    const QList<QByteArrayList> pages = {
+    QList<QByteArrayList> pages = {
         {"<div class=\"a\">", "</div>", "text ", "caf\xc3\xa9 ", "<!-- c -->", "<script>alert('x');</script>",
          "<b>", "</b>", "&amp;", "wordwordword "},
         {"plain words ", "of a long line ", "with no markup at all, ", "a", "  ", "longerwordthanmost "},
+        {},
     };
+    // And bytes of every kind but line ends (control characters, broken
+    // UTF-8, shown as little boxes), between words.
+    QRandomGenerator bytes(11);
+    for (int k = 0; k < 64; ++k) {
+        QByteArray piece;
+        for (int n = 1 + bytes.bounded(12); n > 0; --n) {
+            char b = char(bytes.bounded(256));
+            piece += (b == '\n' || b == '\r') ? ' ' : b;
+        }
+        pages.last() << piece << "word " << "  ";
+    }
     for (int mode : {platform::ColorTagSyntax, platform::ColorOff}) {
         for (const QByteArrayList &pieces : pages) {
             QRandomGenerator rng(5);
             QByteArray page;
-            while (page.size() < 120 * 1024)
+            while (page.size() < (&pieces == &pages.last() ? 40 : 120) * 1024)
                 page += pieces[rng.bounded(int(pieces.size()))];
             m_edit->setColorMode(mode);
             QVERIFY(m_edit->LoadFile(1, m_env->write(QStringLiteral("one-line.html"), page)).ok());
