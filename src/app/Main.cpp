@@ -27,6 +27,29 @@ using core::ui::StartupStep;
 
 namespace {
 
+QtMessageHandler gQtMessages = nullptr;
+
+// The preview draws in software: the browser engine otherwise makes an
+// OpenGL context at start-up, which loads the desktop's GL driver (with a
+// software GL, tens of megabytes of compiler) before any page is shown.
+// QUILLERY_PREVIEW_GPU=1 gives the preview the GPU.
+void drawPreviewInSoftware()
+{
+    if (qEnvironmentVariableIntValue("QUILLERY_PREVIEW_GPU") != 0)
+        return;
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
+    // The engine still asks for its context once; that it gets none is
+    // what was wanted, and not worth a line on the terminal.
+    gQtMessages = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+        if (type == QtWarningMsg && text.contains(QLatin1String("Cannot create platform OpenGL context")))
+            return;
+        gQtMessages(type, context, text);
+    });
+}
+
 QString commandLineOf(int argc, char **argv)
 {
     QStringList args;
@@ -88,16 +111,7 @@ int Main(int argc, char **argv)
     // The preview browser refuses to run as root inside its sandbox.
     if (::geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    // The preview draws in software: the browser engine otherwise makes an
-    // OpenGL context at start-up, which loads the desktop's GL driver (with
-    // a software GL, tens of megabytes of compiler) before any page is
-    // shown. QUILLERY_PREVIEW_GPU=1 gives the preview the GPU.
-    if (qEnvironmentVariableIntValue("QUILLERY_PREVIEW_GPU") == 0) {
-        if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
-            qputenv("QT_XCB_GL_INTEGRATION", "none");
-        if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
-            qputenv("QT_QUICK_BACKEND", "software");
-    }
+    drawPreviewInSoftware();
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillery"));
