@@ -83,7 +83,7 @@ QByteArray tst_Colouring::styles() const
     const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
     QByteArray out(n, '\0');
     for (long i = 0; i < n; ++i)
-        out[i] = char(sci->SendScintilla(Base::SCI_GETSTYLEAT, i));
+        out[qsizetype(i)] = char(sci->SendScintilla(Base::SCI_GETSTYLEAT, i));
     return out;
 }
 
