@@ -62,6 +62,8 @@ struct Shown {
         host.resize(1000, 700);
         edit->SetFontAndSize(QStringLiteral("Monospace"), 10);
         edit->setColorMode(qEnvironmentVariableIsSet("QLY_BENCH_PLAIN") ? platform::ColorOff : platform::ColorTagSyntax);
+        if (qEnvironmentVariableIsSet("QLY_BENCH_WRAP"))
+            edit->setWordWrap(true);
         // What the main window does on each caret move: the position panel.
         if (!qEnvironmentVariableIsSet("QLY_BENCH_NOPANEL")) QObject::connect(edit, &documents::ui::ScintillaEdit::caretMoved, edit, [e = edit] {
             int line = 0, column = 0;
