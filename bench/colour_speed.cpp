@@ -2,6 +2,7 @@
 //   bench_colour_speed generate FILE MB [oneline]   a page of rows, or one line
 //   bench_colour_speed open FILE                     load, colour all, report
 //   bench_colour_speed type FILE end|middle N        N keys typed, time per key
+//   QLY_BENCH_PLAIN=1 types with colouring off, QLY_BENCH_WRAP=1 with word wrap on.
 // The tag catalogue's HTML 4 tags and script words are the known words.
 #include "BenchPage.h"
 #include "documents/KnownWords.h"
