@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLoggingCategory>
 
 #include <unistd.h>
 
@@ -41,8 +42,10 @@ void drawPreviewInSoftware()
         qputenv("QT_XCB_GL_INTEGRATION", "none");
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         qputenv("QT_QUICK_BACKEND", "software");
-    // The engine still asks for its context once; that it gets none is
-    // what was wanted, and not worth a line on the terminal.
+    // The engine still asks for its context once, and reports what it got;
+    // that it gets none is what was wanted, and not worth lines on the
+    // terminal.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false"));
     gQtMessages = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &text) {
         if (type == QtWarningMsg && text.contains(QLatin1String("Cannot create platform OpenGL context")))
             return;

@@ -11,7 +11,6 @@
 #include "documents/FileRegistry.h"
 #include "documents/TempFiles.h"
 #include "documents/ui/FileDrops.h"
-#include "documents/ui/ScoutPage.h"
 #include "documents/ui/ScintillaEdit.h"
 #include "documents/KeyCodes.h"
 #include "markup/CharacterCodes.h"
@@ -21,6 +20,7 @@
 #include "markup/TagPrimitives.h"
 #include "markup/TextOps.h"
 #include "platform/Prompts.h"
+#include "platform/ui/Browser.h"
 #include "publish/Preview.h"
 
 #include <Qsci/qsciscintilla.h>
@@ -44,8 +44,6 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QWebEngineHistory>
-#include <QWebEngineView>
 
 namespace qly::documents::ui {
 
@@ -123,7 +121,7 @@ void DocumentWindow::buildPreviewPage(QWidget *page)
     m_cmbHistory->setEditable(true);
     m_cmbHistory->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(m_cmbHistory->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        browser()->setUrl(QUrl::fromUserInput(m_cmbHistory->currentText()));
+        openInBrowser(QUrl::fromUserInput(m_cmbHistory->currentText()));
     });
     row->addWidget(m_cmbHistory, 1);
     m_cmdLinkTo = new QPushButton(QStringLiteral("Link To:"), toolbar);
@@ -133,33 +131,47 @@ void DocumentWindow::buildPreviewPage(QWidget *page)
     m_previewLayout->addWidget(toolbar);
 }
 
-QWebEngineView *DocumentWindow::browser()
+QWidget *DocumentWindow::browser()
 {
     // Made on first use: the browser engine is costly, and most documents are never previewed.
     if (!m_browser) {
-        m_browser = new QWebEngineView(m_previewPage);
-        m_browser->setObjectName(QStringLiteral("wbScout"));
-        m_browser->setPage(new ScoutPage(m_browser));
-        connect(m_browser->page(), &QWebEnginePage::linkHovered, this, [](const QString &url) {
-            core::ShowStatus(url);
-        });
-        m_previewLayout->addWidget(m_browser, 1);
-        connect(m_browser, &QWebEngineView::urlChanged, this, [this](const QUrl &url) {
+        browser::BrowserHooks hooks;
+        hooks.allowNavigation = [](const QUrl &url) { return publish::AllowPreviewNavigation(url.toString()); };
+        hooks.linkHovered = [](const QString &url) { core::ShowStatus(url); };
+        hooks.urlChanged = [this](const QUrl &url) {
             const QString text = url.toString();
             if (url.scheme() == QLatin1String("data") || text.isEmpty())
                 return;
             if (m_cmbHistory->findText(text) < 0)
                 m_cmbHistory->insertItem(0, text);
             m_cmbHistory->setCurrentText(text);
-        });
+        };
         // Once the browser has read the page and what it links in, the copy
         // need not stay among the user's files.
-        connect(m_browser, &QWebEngineView::loadFinished, this, [this](bool) {
-            if (!m_scoutFile.isEmpty() && m_browser->url() == m_scoutUrl)
+        hooks.loadFinished = [this](bool) {
+            if (!m_scoutFile.isEmpty() && platform::ui::browserUrl(m_browser) == m_scoutUrl)
                 removeScoutFile();
-        });
+        };
+        QString error;
+        m_browser = platform::ui::createBrowser(m_previewPage, hooks, &error);
+        if (!m_browser) {
+            auto *message = new QLabel(QStringLiteral("The preview is not available: ") + error, m_previewPage);
+            message->setWordWrap(true);
+            message->setAlignment(Qt::AlignCenter);
+            m_browser = message;
+            m_browserMissing = true;
+        }
+        m_browser->setObjectName(QStringLiteral("wbScout"));
+        m_previewLayout->addWidget(m_browser, 1);
     }
     return m_browser;
+}
+
+void DocumentWindow::openInBrowser(const QUrl &url)
+{
+    QWidget *view = browser();
+    if (!m_browserMissing)
+        platform::ui::browserOpen(view, url);
 }
 
 platform::HTMLEdit &DocumentWindow::txtDoc()
@@ -285,7 +297,7 @@ void DocumentWindow::ShowMyScout(bool)
     m_scoutUrl = QUrl::fromLocalFile(path);
     core::ShowStatus(QStringLiteral("Preview"));
     publish::CopyNeededApplets(m_edit->Text(), QFileInfo(path).absolutePath(), appletHelperFile());
-    browser()->setUrl(m_scoutUrl);
+    openInBrowser(m_scoutUrl);
     bNeedsPreview = false;
     core::EndWait();
 }
@@ -310,18 +322,19 @@ void DocumentWindow::runBrowserCommand(BrowserCommand command)
         return;
     }
     // Before the first preview there is nothing to go back to or stop.
-    if (!m_browser)
+    if (!m_browser || m_browserMissing)
         return;
     // The copy of the page is gone once shown: a refresh writes it anew.
-    if (command == BrowserCommand::Refresh && m_browser->url() == m_scoutUrl && m_scoutFile.isEmpty()) {
+    if (command == BrowserCommand::Refresh && platform::ui::browserUrl(m_browser) == m_scoutUrl
+        && m_scoutFile.isEmpty()) {
         ShowMyScout(true);
         return;
     }
     switch (command) {
-    case BrowserCommand::Back: m_browser->back(); break;
-    case BrowserCommand::Forward: m_browser->forward(); break;
-    case BrowserCommand::Stop: m_browser->stop(); break;
-    case BrowserCommand::Refresh: m_browser->reload(); break;
+    case BrowserCommand::Back: platform::ui::browserBack(m_browser); break;
+    case BrowserCommand::Forward: platform::ui::browserForward(m_browser); break;
+    case BrowserCommand::Stop: platform::ui::browserStop(m_browser); break;
+    case BrowserCommand::Refresh: platform::ui::browserReload(m_browser); break;
     case BrowserCommand::Home: break;
     }
 }
@@ -382,8 +395,8 @@ void DocumentWindow::onTabChanged(int tab)
     // The open sequence picks the tab it wants; what a switch does waits until it is over.
     if (core::gLoadingDocument)
         return;
-    if (old == 1 && m_browser)
-        m_browser->stop();
+    if (old == 1 && m_browser && !m_browserMissing)
+        platform::ui::browserStop(m_browser);
     if (tab == 0) {
         m_edit->SetFocus();
         m_lblHistory->setVisible(false);

@@ -11,7 +11,6 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
-class QWebEngineView;
 class QMdiSubWindow;
 class QInputMethodEvent;
 
@@ -84,7 +83,10 @@ private:
     void onTabChanged(int tab);
     void updatePosition();
     void buildPreviewPage(QWidget *page);
-    QWebEngineView *browser();
+    // The preview's page view, made on first use (a note when the browser
+    // library cannot be loaded).
+    QWidget *browser();
+    void openInBrowser(const QUrl &url);
     void removeScoutFile();
     // Committed text of a dead key or an input method; true when it was put in here.
     bool inputMethodCommit(QInputMethodEvent *event);
@@ -93,7 +95,8 @@ private:
     QTabWidget *m_tabDoc = nullptr;
     QWidget *m_previewPage = nullptr;
     QVBoxLayout *m_previewLayout = nullptr;
-    QWebEngineView *m_browser = nullptr;
+    QWidget *m_browser = nullptr;
+    bool m_browserMissing = false;
     QComboBox *m_cmbHistory = nullptr;
     QLabel *m_lblHistory = nullptr;
     QPushButton *m_cmdLinkTo = nullptr;

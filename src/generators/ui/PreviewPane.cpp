@@ -2,6 +2,7 @@
 
 #include "core/Settings.h"
 #include "generators/TableFramePreview.h"
+#include "platform/ui/Browser.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -11,7 +12,6 @@
 #include <QScrollBar>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <QWebEngineView>
 
 #include <algorithm>
 
@@ -39,7 +39,13 @@ PreviewPane::~PreviewPane()
 void PreviewPane::setLive(bool live)
 {
     if (live && !m_view) {
-        m_view = new QWebEngineView(this);
+        QString error;
+        m_view = platform::ui::createBrowser(this, {}, &error);
+        if (!m_view) {
+            m_message->setText(QStringLiteral("The preview is not available: ") + error);
+            m_message->setVisible(true);
+            return;
+        }
         m_view->setMinimumHeight(60);
         layout()->addWidget(m_view);
         refreshNow();
@@ -76,6 +82,8 @@ void PreviewPane::showLive(QWidget *dialog)
     fitToScreen(dialog, dialog->size() + QSize(0, room));
     show();
     setLive(true);
+    if (!m_view)
+        return;
     // The fields keep their height; the browser takes what is left.
     m_view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_view->setMinimumHeight(room / 2);
@@ -98,10 +106,10 @@ bool PreviewPane::refreshNow()
         m_written(m_path, page);
     if (m_view) {
         const QUrl url = QUrl::fromLocalFile(m_path);
-        if (m_view->url() == url)
-            m_view->reload();
+        if (platform::ui::browserUrl(m_view) == url)
+            platform::ui::browserReload(m_view);
         else
-            m_view->setUrl(url);
+            platform::ui::browserOpen(m_view, url);
     }
     return true;
 }

@@ -6,7 +6,6 @@
 
 class QLabel;
 class QLayout;
-class QWebEngineView;
 
 namespace qly::generators::ui {
 
@@ -24,8 +23,8 @@ public:
 
     void setLive(bool live);
     bool live() const { return m_view != nullptr; }
-    // The browser while the pane is live, else null.
-    QWebEngineView *view() const { return m_view; }
+    // The page view (a QWebEngineView) while the pane is live, else null.
+    QWidget *view() const { return m_view; }
     // Something changed: the refresh timer starts again.
     void changed();
     // The same, only while the pane is live.
@@ -45,7 +44,7 @@ public:
 private:
     std::function<QString()> m_page;
     std::function<void(const QString &, const QString &)> m_written;
-    QWebEngineView *m_view = nullptr;
+    QWidget *m_view = nullptr;
     QLabel *m_message = nullptr;
     QTimer m_timer;
     QString m_path;

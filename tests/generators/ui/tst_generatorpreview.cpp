@@ -86,7 +86,7 @@ void tst_GeneratorPreview::tablePreviewFollowsTheFields()
 {
     generators::ui::frmTable dialog(m_main.get(), true);
     dialog.show();
-    QWebEngineView *view = dialog.preview()->view();
+    auto *view = qobject_cast<QWebEngineView *>(dialog.preview()->view());
     QVERIFY(view);
     QSignalSpy loaded(view, &QWebEngineView::loadFinished);
     QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
@@ -103,7 +103,7 @@ void tst_GeneratorPreview::framePreviewShowsTheLayout()
 {
     generators::ui::frmFrame dialog(generators::FrameModel::Orientation::Cols, 3, m_main.get(), true);
     dialog.show();
-    QWebEngineView *view = dialog.preview()->view();
+    auto *view = qobject_cast<QWebEngineView *>(dialog.preview()->view());
     QVERIFY(view);
     QSignalSpy loaded(view, &QWebEngineView::loadFinished);
     QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
@@ -121,7 +121,7 @@ void tst_GeneratorPreview::textEffectPreviewFollowsTheFields()
     dialog.show();
     dialog.findChild<QLineEdit *>(QStringLiteral("txtStringCenter"))->clear();
     dialog.preview();
-    QWebEngineView *view = dialog.previewPane()->view();
+    auto *view = qobject_cast<QWebEngineView *>(dialog.previewPane()->view());
     QVERIFY(view);
     QSignalSpy loaded(view, &QWebEngineView::loadFinished);
     QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
@@ -149,7 +149,7 @@ void tst_GeneratorPreview::objectPreviewShowsTheTag()
     dialog.show();
     dialog.chooseControl(0);
     dialog.preview();
-    QWebEngineView *view = dialog.previewPane()->view();
+    auto *view = qobject_cast<QWebEngineView *>(dialog.previewPane()->view());
     QVERIFY(view);
     QSignalSpy loaded(view, &QWebEngineView::loadFinished);
     QTRY_VERIFY_WITH_TIMEOUT(loaded.count() >= 1, 30000);
