@@ -248,7 +248,9 @@ void HtmlColouring::styleTo(long end)
         pos = lexHtml(text, readable, readable == length, pos, step, state, sink, words);
         if (m_checkpoints.empty() || m_checkpoints.back().first < pos)
             m_checkpoints.emplace_back(pos, state);
-        if (m_changedTo >= 0 && pos >= m_changedTo + kLookahead)
+        // Past every change (and what the lexer looks ahead at), or at the
+        // end of the page: nothing changed is left to colour.
+        if (m_changedTo >= 0 && (pos >= m_changedTo + kLookahead || pos >= length))
             m_changedTo = -1;
         nextMeeting(pos);
         if (meets(pos, state)) {

@@ -117,12 +117,15 @@ void tst_Colouring::editsRecolourAsAWholeLexWould()
     QsciScintilla *sci = m_edit->view();
     for (int round = 0; round < 60; ++round) {
         // One to four edits before anything is coloured again (a paste, a
-        // replace, an undo of several), anywhere on the line.
+        // replace, an undo), anywhere on the line.
         long at = 0;
         for (int edits = 1 + rng.bounded(4); edits > 0; --edits) {
             const long n = sci->SendScintilla(Base::SCI_GETLENGTH);
             at = rng.bounded(int(n));
-            if (rng.bounded(3) == 0) {
+            if (rng.bounded(6) == 0) {
+                sci->SendScintilla(Base::SCI_UNDO);
+                at = sci->SendScintilla(Base::SCI_GETCURRENTPOS);
+            } else if (rng.bounded(3) == 0) {
                 sci->SendScintilla(Base::SCI_DELETERANGE, at, std::min<long>(1 + rng.bounded(12), n - at));
             } else {
                 const char *text = inserts[rng.bounded(int(std::size(inserts)))];
@@ -133,6 +136,21 @@ void tst_Colouring::editsRecolourAsAWholeLexWould()
         m_edit->colouring()->styleTo(at + 100);
         styleAll();
         QVERIFY2(styles() == freshStyles(), qPrintable(QStringLiteral("round %1 at %2").arg(round).arg(at)));
+    }
+
+    // A value left open over several remembered states and found unfinished
+    // far on: an edit inside it must not let the colouring take the old
+    // colours back halfway, since the whole value is coloured again at its end.
+    QByteArray open = QByteArray("<p>x</p>").repeated(2500) + "<a href=\"" + QByteArray("v ").repeated(40000)
+                      + "<b>x</b>" + QByteArray("<i>y</i> ").repeated(3000);
+    m_edit->setText(QString::fromUtf8(open));
+    styleAll();
+    QCOMPARE(styles(), freshStyles());
+    for (long at : {45000L, 70000L, 21000L}) {
+        sci->SendScintilla(Base::SCI_INSERTTEXT, uintptr_t(at), "w");
+        m_edit->colouring()->styleTo(at + 100);
+        styleAll();
+        QVERIFY2(styles() == freshStyles(), qPrintable(QStringLiteral("open value, edit at %1").arg(at)));
     }
 }
 
