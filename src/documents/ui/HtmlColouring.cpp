@@ -84,9 +84,7 @@ void HtmlColouring::setEditor(QsciScintilla *editor)
         disconnect(old, nullptr, this, nullptr);
     QsciLexerCustom::setEditor(editor);
     m_checkpoints.clear();
-    m_oldCheckpoints.clear();
-    m_nextOld = 0;
-    m_changedTo = -1;
+    forgetOldColouring();
     if (editor) {
         connect(editor, &QsciScintillaBase::SCN_MODIFIED, this,
                 [this](int position, int type, const char *, int length, int, int, int, int, int, int) {
@@ -177,6 +175,11 @@ void HtmlColouring::takeOldColouring()
         if (m_checkpoints.empty() || m_checkpoints.back().first < m_oldCheckpoints[k].first)
             m_checkpoints.push_back(m_oldCheckpoints[k]);
     editor()->SendScintilla(Base::SCI_STARTSTYLING, uintptr_t(m_oldColouredTo));
+    forgetOldColouring();
+}
+
+void HtmlColouring::forgetOldColouring()
+{
     m_oldCheckpoints.clear();
     m_nextOld = 0;
     m_oldColouredTo = 0;
@@ -200,10 +203,7 @@ long HtmlColouring::endStyled() const
 void HtmlColouring::restyleAll()
 {
     m_checkpoints.clear();
-    m_oldCheckpoints.clear();
-    m_nextOld = 0;
-    m_oldColouredTo = 0;
-    m_changedTo = -1;
+    forgetOldColouring();
     if (editor())
         editor()->SendScintilla(Base::SCI_STARTSTYLING, uintptr_t(0));
 }

@@ -40,6 +40,8 @@ private:
     std::int64_t nextMeeting(std::int64_t pos);
     bool meets(std::int64_t pos, const LexState &state) const;
     void takeOldColouring();
+    // Nothing is known past a change (the page is coloured anew).
+    void forgetOldColouring();
 
     // The lexer's state at points it passed, by position; valid up to the
     // first change before them.
