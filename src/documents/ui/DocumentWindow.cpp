@@ -155,7 +155,7 @@ QWidget *DocumentWindow::browser()
         QString error;
         m_browser = platform::ui::createBrowser(m_previewPage, hooks, &error);
         if (!m_browser) {
-            auto *message = new QLabel(QStringLiteral("The preview is not available: ") + error, m_previewPage);
+            auto *message = new QLabel(platform::ui::browserUnavailable(error), m_previewPage);
             message->setWordWrap(true);
             message->setAlignment(Qt::AlignCenter);
             m_browser = message;

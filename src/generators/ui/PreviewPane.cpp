@@ -42,7 +42,7 @@ void PreviewPane::setLive(bool live)
         QString error;
         m_view = platform::ui::createBrowser(this, {}, &error);
         if (!m_view) {
-            m_message->setText(QStringLiteral("The preview is not available: ") + error);
+            m_message->setText(platform::ui::browserUnavailable(error));
             m_message->setVisible(true);
             return;
         }

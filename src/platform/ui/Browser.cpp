@@ -7,19 +7,16 @@
 #include <QVariant>
 #include <QWidget>
 
-#include <dlfcn.h>
-
 namespace qly::platform::ui {
 
 namespace {
 
-// Where the library is, seen from the program's own folder: beside it in
-// the build tree's layout of bin/ and lib/, and so in an installation.
-QStringList libraryCandidates()
+// The library's place, seen from the program's folder: the same in the
+// build tree's layout of bin/ and lib/ as in an installation.
+QString libraryPath()
 {
-    const QString dir = QCoreApplication::applicationDirPath();
-    const QString name = QString::fromLatin1(browser::kBrowserLibraryName);
-    return {QDir::cleanPath(dir + QStringLiteral("/" QLY_BROWSER_DIR "/") + name), dir + u'/' + name};
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" QLY_BROWSER_DIR "/")
+                           + QString::fromLatin1(browser::kBrowserLibraryName));
 }
 
 browser::CreateBrowserFn resolveCreateBrowser(QString *error)
@@ -27,22 +24,17 @@ browser::CreateBrowserFn resolveCreateBrowser(QString *error)
     static browser::CreateBrowserFn create = nullptr;
     static QString failure;
     if (!create && failure.isEmpty()) {
-        // A program that links the library has it already.
-        create = reinterpret_cast<browser::CreateBrowserFn>(dlsym(RTLD_DEFAULT, browser::kCreateBrowserSymbol));
-        const QStringList candidates = libraryCandidates();
-        for (const QString &path : candidates) {
-            if (create || !QFileInfo::exists(path))
-                continue;
+        const QString path = libraryPath();
+        if (!QFileInfo::exists(path)) {
+            failure = QStringLiteral("%1 is not in %2.")
+                          .arg(QString::fromLatin1(browser::kBrowserLibraryName), QFileInfo(path).absolutePath());
+        } else {
             QLibrary library(path);
             if (library.load())
                 create = reinterpret_cast<browser::CreateBrowserFn>(library.resolve(browser::kCreateBrowserSymbol));
             if (!create)
                 failure = library.errorString();
         }
-        if (!create && failure.isEmpty())
-            failure = QStringLiteral("%1 is not in %2.")
-                          .arg(QString::fromLatin1(browser::kBrowserLibraryName),
-                               QFileInfo(candidates.first()).absolutePath());
     }
     if (!create && error)
         *error = failure;
@@ -50,6 +42,11 @@ browser::CreateBrowserFn resolveCreateBrowser(QString *error)
 }
 
 } // namespace
+
+QString browserUnavailable(const QString &error)
+{
+    return QStringLiteral("The preview is not available: ") + error;
+}
 
 QWidget *createBrowser(QWidget *parent, const browser::BrowserHooks &hooks, QString *error)
 {

@@ -15,6 +15,8 @@ namespace qly::platform::ui {
 // Returns null, with the reason in `error`, when the library is missing or
 // cannot be loaded.
 QWidget *createBrowser(QWidget *parent, const browser::BrowserHooks &hooks, QString *error = nullptr);
+// What a preview says in its place when createBrowser() gave `error`.
+QString browserUnavailable(const QString &error);
 
 // What the editor does with such a view.
 void browserOpen(QWidget *view, const QUrl &url);
