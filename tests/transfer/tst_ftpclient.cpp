@@ -4,6 +4,7 @@
 #include "support/FtpTestServer.h"
 #include "transfer/FtpClient.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -244,13 +245,14 @@ void tst_ftpclient::silentServerTimesOut()
 void tst_ftpclient::abortLeavesNoFile()
 {
     QTemporaryDir root, local;
-    // The server takes uploads at 2 MB a second, so however fast the
-    // machine, the first one is still going when the first progress comes.
-    SERVER(server, root.path(), {QStringLiteral("--read-limit"), QStringLiteral("2000000")});
+    // The server takes uploads at 1 MB a second, and the file is larger than
+    // the loopback's buffers hold, so however fast or loaded the machine,
+    // the first upload is still going when the stop comes.
+    SERVER(server, root.path(), {QStringLiteral("--read-limit"), QStringLiteral("1000000")});
     FtpClient ftp;
     setUp(ftp, server);
     ftp.setAction(FtpClient::Connect);
-    QByteArray big(8000000, 'y');
+    QByteArray big(32000000, 'y');
     writeFile(local.filePath(QStringLiteral("big.bin")), big);
     ftp.Blocking = false;
     QStringList ended;
@@ -262,10 +264,16 @@ void tst_ftpclient::abortLeavesNoFile()
         ftp.RemoteFile = QString::fromLatin1(name);
         ftp.setAction(FtpClient::SendFile);
     }
-    connect(&ftp, &FtpClient::ftp_Progress, &ftp, [&](qint64 bytes, qint64, int) {
-        if (bytes > 0 && ftp.busy())
+    // Stopped as soon as bytes are on their way: told by the progress, or
+    // seen as the file the server has begun to write.
+    auto stopOnceGoing = [&](qint64 bytes) {
+        if (ftp.busy() && (bytes > 0 || !QDir(root.path()).isEmpty()))
             ftp.AbortTransfer();
-    });
+    };
+    connect(&ftp, &FtpClient::ftp_Progress, &ftp, [&](qint64 bytes, qint64, int) { stopOnceGoing(bytes); });
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, &ftp, [&] { stopOnceGoing(0); });
+    watch.start(5);
     ftp.waitForIdle();
     QCOMPARE(ftp.LastError, transfer::ErrAborted);
     QCOMPARE(ended.size(), 2);
